@@ -1,0 +1,244 @@
+// A report from its values to a PDF file, beside an office suite that turns the same text into one; and typing in a
+// long one. The office suite is not one of this project's packages: where it isn't installed
+// (apt install libreoffice-writer-nogui) its lines say so.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QPrinter>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextEdit>
+
+#include "forms/desk.h"
+#include "forms/form.h"
+#include "qt/page_view.h"
+#include "qt/real_printers.h"
+#include "reports/first_trimester.h"
+#include "reports/twips.h"
+#include "reports/wisiwi.h"
+
+namespace {
+
+using namespace reports;
+
+constexpr int kLineWidth = 11186;
+
+class Window final : public forms::Form {
+public:
+    explicit Window(forms::Desk& desk) : Form(desk, QStringLiteral("Bench"), QString()) {
+        Box.SelFontName(QStringLiteral("Arial"));
+        Box.SelFontSize(12);
+        Box.setLineWidth(kLineWidth);
+    }
+    forms::RichText Box{*this, QStringLiteral("Box")};
+};
+
+class PdfPrinters final : public qt::RealPrinters {
+public:
+    explicit PdfPrinters(QString file) : file_(std::move(file)) {}
+
+protected:
+    std::unique_ptr<QPrinter> makeStandard() const override {
+        auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        printer->setOutputFormat(QPrinter::PdfFormat);
+        printer->setOutputFileName(file_);
+        return printer;
+    }
+
+private:
+    QString file_;
+};
+
+// Triplets of a practice that writes at length: three pages.
+FirstTrimesterExam longExam() {
+    FirstTrimesterExam exam;
+    exam.letterhead = {QStringLiteral("Clinique des Tilleuls"), QStringLiteral("Docteur Hélène MARCHAND"),
+                       QStringLiteral("12, rue du Vieux Pont"), QStringLiteral("67000 STRASBOURG"),
+                       QStringLiteral("Tél. 03 88 00 00 00")};
+    exam.patient = {QStringLiteral("Mme"), QStringLiteral("Zoé"), QStringLiteral("D'ALMEIDA")};
+    exam.LblNbrE = QStringLiteral("3");
+    exam.TxtIndic = QStringLiteral("Grossesse triple, contrôle de la croissance et des clartés nucales. ").repeated(5);
+    exam.TxtConclu1 = QStringLiteral("Trois embryons évolutifs, biométrie concordante avec le terme. ").repeated(12);
+    for (Embryo& embryo : exam.embryos) {
+        embryo.TxtMorpho =
+            QStringLiteral("Pôle céphalique, abdomen, rachis et membres vus ; cœur à quatre cavités. ").repeated(9);
+    }
+    return exam;
+}
+
+Report longReport() {
+    return CptRendu1T(longExam(), Detail::Full, QStringLiteral("Toute anomalie ne peut être vue. ").repeated(6));
+}
+
+void layOut(forms::RichText& box) {
+    measureInTwips(box.document());
+    box.document().setTextWidth(kLineWidth);
+    benchmark::DoNotOptimize(box.document().size());
+}
+
+void composing(benchmark::State& state) {
+    const FirstTrimesterExam exam = longExam();
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(CptRendu1T(exam, Detail::Full, std::nullopt));
+    }
+}
+BENCHMARK(composing)->Unit(benchmark::kMillisecond);
+
+void typingTheReportAndLayingItOut(benchmark::State& state) {
+    const Report report = longReport();
+    for (auto _ : state) {
+        forms::Desk desk;
+        Window window(desk);
+        type(report, window.Box);
+        layOut(window.Box);
+    }
+}
+BENCHMARK(typingTheReportAndLayingItOut)->Unit(benchmark::kMillisecond);
+
+void threePagesFromValuesToPdf(benchmark::State& state) {
+    const QTemporaryDir folder;
+    PdfPrinters printers(folder.filePath(QStringLiteral("rapport.pdf")));
+    for (auto _ : state) {
+        forms::Desk desk;
+        Window window(desk);
+        type(longReport(), window.Box);
+        layOut(window.Box);
+        PrintRTF(window.Box, *printers.standard(), QStringLiteral("Essai"), kPaperMargins);
+    }
+}
+BENCHMARK(threePagesFromValuesToPdf)->Unit(benchmark::kMillisecond);
+
+/// The same operations as rich text codes, for a program that reads those.
+struct RtfWriter {
+    QByteArray body;
+
+    void operator()(const SelAlignment& operation) {
+        body += operation.value == forms::Alignment::Centre ? "\\qc " : "\\ql ";
+    }
+    void operator()(const SelFontSize& operation) {
+        body += "\\fs" + QByteArray::number(static_cast<int>(2 * operation.points)) + ' ';
+    }
+    void operator()(const SelBold& operation) { body += operation.value ? "\\b " : "\\b0 "; }
+    void operator()(const SelText& operation) {
+        for (const QChar c : operation.text) {
+            if (c == u'\n') {
+                body += "\\par ";
+            } else if (c.unicode() > 126) {
+                body += "\\u" + QByteArray::number(c.unicode()) + '?';
+            } else if (c != u'\r') {
+                body += c.toLatin1();
+            }
+        }
+    }
+    void operator()(const SelStart&) const {}
+};
+
+QByteArray asRtf(const Report& report) {
+    RtfWriter writer;
+    for (const Operation& operation : report.operations) {
+        std::visit(writer, operation);
+    }
+    return "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\\paperw11906\\paperh16838\\margl1440\\margr1440\\margt1440"
+           "\\margb1440 " +
+           writer.body + "}";
+}
+
+/// An office suite that turns files of rich text into PDF files, in a folder of its own.
+class Office {
+public:
+    bool isThere() const { return !program_.isEmpty(); }
+
+    /// Seconds that one run takes for so many files.
+    double convert(int files) {
+        QStringList arguments{
+            QStringLiteral("--headless"),
+            QStringLiteral("-env:UserInstallation=file://") + folder_.filePath(QStringLiteral("user")),
+            QStringLiteral("--convert-to"),
+            QStringLiteral("pdf"),
+            QStringLiteral("--outdir"),
+            folder_.filePath(QStringLiteral("pdf"))};
+        for (int i = 0; i < files; ++i) {
+            arguments << write(i);
+        }
+        QElapsedTimer timer;
+        timer.start();
+        QProcess office;
+        office.start(program_, arguments);
+        office.waitForFinished(-1);
+        return static_cast<double>(timer.nsecsElapsed()) / 1e9;
+    }
+
+private:
+    QString write(int number) const {
+        QFile file(folder_.filePath(QStringLiteral("%1.rtf").arg(number)));
+        if (file.open(QIODevice::WriteOnly)) {
+            file.write(asRtf(longReport()));
+        }
+        return file.fileName();
+    }
+
+    QTemporaryDir folder_;
+    QString program_ = QStandardPaths::findExecutable(QStringLiteral("soffice"));
+};
+
+// What one file more costs in one run, and what a run costs besides.
+void officeSuite(benchmark::State& state, bool startUp) {
+    constexpr int kMany = 21;
+    Office office;
+    if (!office.isThere()) {
+        state.SkipWithError("no soffice here: apt install libreoffice-writer-nogui");
+        return;
+    }
+    office.convert(1);
+    for (auto _ : state) {
+        const double one = office.convert(1);
+        const double each = (office.convert(kMany) - one) / (kMany - 1);
+        state.SetIterationTime(startUp ? one - each : each);
+    }
+}
+BENCHMARK_CAPTURE(officeSuite, threePagesToPdf, false)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(officeSuite, startUp, true)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
+
+// One key in a text of twenty pages, until it is seen: at its start, in its middle, at its end.
+void oneKeyInTwentyPages(benchmark::State& state) {
+    forms::Desk desk;
+    Window window(desk);
+    for (int i = 0; i < 9; ++i) {
+        type(longReport(), window.Box);
+    }
+    qt::PageView view(window.Box.document(), QString());
+    view.setLineWidth(kLineWidth);
+    view.resize(746, 690);
+    view.show();
+    QApplication::setActiveWindow(&view);
+    view.setFocus();
+    QTextCursor caret = view.edit().textCursor();
+    caret.setPosition(static_cast<int>(state.range(0)) * (window.Box.document().characterCount() - 1) / 100);
+    view.edit().setTextCursor(caret);
+    QApplication::processEvents();
+    const int before = window.Box.document().characterCount();
+    for (auto _ : state) {
+        QTest::sendKeyEvent(QTest::Click, &view, Qt::Key_E, QStringLiteral("é"), Qt::NoModifier, -1);
+        QApplication::processEvents();
+    }
+    if (window.Box.document().characterCount() == before) {
+        state.SkipWithError("nothing was typed");
+    }
+    state.counters["pages"] = view.edit().document()->size().height() / (16838 - 2 * 1440);
+    view.release();
+}
+BENCHMARK(oneKeyInTwentyPages)->Arg(0)->Arg(50)->Arg(100)->Iterations(300)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

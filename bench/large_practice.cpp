@@ -1,0 +1,126 @@
+#include "large_practice.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <functional>
+#include <vector>
+
+#include "store/schema.h"
+#include "yardstick.h"
+
+namespace large_practice {
+namespace {
+
+using store::Field;
+using store::FieldKind;
+using store::FileKind;
+
+/// The value of a field of the record with this number, from 0.
+using ValueOf = std::function<QByteArray(int record, const Field& field)>;
+
+/// An INSERT for every field of a table.
+QByteArray insertion(const QString& table) {
+    QByteArrayList columns;
+    QByteArrayList marks;
+    for (const Field& field : store::fieldsOf(table)) {
+        columns << '"' + field.name.toUtf8() + '"';
+        marks << QByteArrayLiteral("?");
+    }
+    return "INSERT INTO \"" + table.toUtf8() + "\"(" + columns.join(',') + ")VALUES(" + marks.join(',') + ')';
+}
+
+void fill(const QString& path, const QString& table, int count, const ValueOf& valueOf) {
+    yardstick::Connection connection(path);
+    connection.run("PRAGMA synchronous=OFF; BEGIN");
+    {
+        yardstick::Statement statement(connection, insertion(table).constData());
+        const auto& fields = store::fieldsOf(table);
+        std::vector<QByteArray> values(fields.size());
+        for (int record = 0; record < count; ++record) {
+            for (std::size_t i = 0; i < fields.size(); ++i) {
+                values[i] = valueOf(record, fields[i]);
+                statement.bind(static_cast<int>(i) + 1, values[i]);
+            }
+            statement.fetch();
+            statement.reset();
+        }
+    }
+    connection.run("COMMIT");
+}
+
+/// The path of a file of this name with one table filled.
+QString made(const QString& name, FileKind kind, const QString& table, int count, const ValueOf& valueOf) {
+    const QString path = place(name);
+    if (!QFile::exists(path)) {
+        store::createFile(kind, path);
+        fill(path, table, count, valueOf);
+    }
+    return path;
+}
+
+}  // namespace
+
+QString place(const QString& name) {
+    static const QTemporaryDir folder;
+    return folder.filePath(name);
+}
+
+QString invented(std::mt19937& random, int syllables) {
+    static const QStringList kSyllables{u"BER"_qs, u"DU"_qs,  u"LA"_qs,  u"MON"_qs, u"PÉ"_qs,  u"RI"_qs, u"SAN"_qs,
+                                        u"TER"_qs, u"VAL"_qs, u"QUE"_qs, u"NOU"_qs, u"GRA"_qs, u"LÈ"_qs, u"CHE"_qs,
+                                        u"FON"_qs, u"D'A"_qs, u"LIN"_qs, u"MAR"_qs, u"TI"_qs,  u"RO"_qs};
+    QString name;
+    for (; syllables > 0; --syllables) {
+        name += kSyllables[static_cast<qsizetype>(random() % static_cast<unsigned>(kSyllables.size()))];
+    }
+    return name;
+}
+
+QString patients(int count) {
+    std::mt19937 random(7);
+    return made(u"NOM%1.MDB"_qs.arg(count), FileKind::Nom, u"FICHEPATIENT"_qs, count,
+                [&random](int record, const Field& field) {
+                    if (field.kind == FieldKind::Number) {
+                        return QByteArray::number(record + 1);
+                    }
+                    if (field.kind == FieldKind::Date) {
+                        return QByteArrayLiteral("1970-02-28");
+                    }
+                    const bool name = field.name == u"Nom"_qs || field.name == u"Prenom"_qs;
+                    return invented(random, name ? 3 : 2).toUtf8();
+                });
+}
+
+QString exams() {
+    std::mt19937 random(8);
+    // The exams of a dossier lie years apart: here the first ones of all dossiers, then the second ones, and so on.
+    constexpr int kDossiers = kExams / kExamsOfADossier;
+    return made(u"ECHO.MDB"_qs, FileKind::Echo, u"1TER"_qs, kExams, [&random](int record, const Field& field) {
+        if (field.kind == FieldKind::Number) {
+            const bool dossier = field.name == u"Numero"_qs;
+            return QByteArray::number(dossier ? record % kDossiers + 1 : record / kDossiers + 1);
+        }
+        return field.name == u"DATEXAM"_qs ? QByteArrayLiteral("16/04/2002") : invented(random, 4).toUtf8();
+    });
+}
+
+QString histories() {
+    std::mt19937 random(9);
+    return made(u"ATCD.MDB"_qs, FileKind::Atcd, u"FICHEATCD"_qs, kPatients, [&random](int record, const Field& field) {
+        if (field.kind == FieldKind::Number) {
+            return QByteArray::number(record + 1);
+        }
+        return field.name == u"Type"_qs ? QByteArrayLiteral("1") : invented(random, 40).toUtf8();
+    });
+}
+
+QString album() {
+    std::mt19937 random(10);
+    return made(u"ECHOTEK.MDB"_qs, FileKind::Echotek, u"ECHOS"_qs, kPictures,
+                [&random](int record, const Field& field) {
+                    const QByteArray number = QByteArray::number(record + 1);
+                    return field.kind == FieldKind::Number ? number : invented(random, 3).toUtf8() + number;
+                });
+}
+
+}  // namespace large_practice

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+namespace base {
+
+/// Bytes as text: UTF-8, with or without its mark; what is no UTF-8 is read as Windows-1252.
+QString decodeText(const QByteArray& bytes);
+
+/// The text of a file. Throws FileNotFound if there is none at this path, PermissionDenied or DeviceError if it can't
+/// be read.
+QString readTextFile(const QString& path);
+
+/// Makes a text the whole content of a file, in UTF-8. It is written beside the file and then takes its place: on any
+/// failure the old file is whole. Throws DiskFull, PermissionDenied or DeviceError.
+void replaceTextFile(const QString& path, const QString& text);
+
+}  // namespace base

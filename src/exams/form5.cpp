@@ -1,0 +1,188 @@
+#include "exams/form5.h"
+
+#include "base/dates.h"
+#include "base/numbers.h"
+#include "biometry/dating.h"
+#include "exams/exam_record.h"
+#include "exams/form6.h"
+
+namespace exams {
+namespace {
+
+namespace fields = first_trimester;
+
+constexpr std::int16_t kMostEmbryos = 3;
+
+}  // namespace
+
+Form5::Form5(ObstetricExams& exams)
+    : Form(exams.life().desk(), kName.toString(), QStringLiteral("Rédaction 1 Ter")),
+      sheet(*this, exams),
+      exams_(exams) {
+    sheet.FrameJ1.holds(TxtCa1);
+    sheet.FrameJ2.holds(TxtCa2);
+    sheet.FrameJ3.holds(TxtCa3);
+    wireFields();
+    wireButtons();
+}
+
+void Form5::wireFields() {
+    field(fields::kLastPeriod).onChange = [this] { onLastPeriodChange(); };
+    for (const int start : {fields::kTheoreticalStart, fields::kUltrasoundStart}) {
+        field(start).onChange = [this, start] { onStartChange(start); };
+    }
+    field(fields::kEmbryos).onChange = [this] { onEmbryosChange(); };
+    for (const int count : {fields::kSacs, fields::kEmbryos}) {
+        field(count).onKey = [this, count](forms::KeyPress& key) {
+            field(count).setText({});
+            digitsOnly(key);
+        };
+    }
+    field(fields::kCrownRumpLength).onKey = digitsOnly;
+}
+
+void Form5::wireButtons() {
+    sheet.CmdJ1.onClick = [this] { paint(0); };
+    sheet.CmdJ2.onClick = [this] { paint(1); };
+    sheet.CmdJ3.onClick = [this] { paint(2); };
+    Command2.onClick = [this] { onDateFromLength(); };
+    CmdPhotos.onClick = [this] { desk().show(QStringLiteral("Form19")); };
+    CmdEnregis.onClick = [this] { save(); };
+    CmdQuitter.onClick = [this] {
+        unload();
+        exams_.setStepping(false);
+    };
+}
+
+void Form5::unloading() {
+    exams_.leaveWriting();
+}
+
+void Form5::AFFCIVILITES() {
+    exams_.life().copyIdentity(sheet.LblNom, sheet.LblPrenom, sheet.LblNumInt);
+}
+
+void Form5::openNew() {
+    sheet.Frame5.hide();
+    show();
+    exams_.life().openBase();
+    sheet.readDevice();
+    AFFCIVILITES();
+    const QString number = exams_.nextNumber();
+    clear();
+    // Emptying the number of embryos may have brought the panel back.
+    sheet.Frame5.hide();
+    sheet.TxtNumEcho.setText(number);
+    field(fields::kOperator).setFocus();
+}
+
+void Form5::clear() {
+    sheet.TxtDate.setText(base::shortDate(exams_.life().around().clock.today()));
+    sheet.LblAgeGesta.setText({});
+    sheet.TxtPds.setText({});
+    sheet.TxtTaille.setText({});
+    for (int i = sheet.Txt1Ter.first(); i <= sheet.Txt1Ter.last(); ++i) {
+        field(i).setText({});
+    }
+}
+
+void Form5::onLastPeriodChange() {
+    const auto start =
+        biometry::theoreticalStart(field(fields::kLastPeriod).text(), exams_.life().around().clock.today());
+    if (start.fails()) {
+        refuseDates({});
+    } else if (start.writes()) {
+        field(fields::kTheoreticalStart).setText(start.text());
+    }
+}
+
+void Form5::onStartChange(int index) {
+    const auto age = biometry::ageText(field(index).text(), sheet.TxtDate.text(), exams_.life().around().clock.today());
+    if (age.writes()) {
+        sheet.LblAgeGesta.setText(age.text());
+    } else if (index == fields::kTheoreticalStart) {
+        refuseDates({fields::kTheoreticalStart, fields::kLastPeriod});
+    } else {
+        refuseDates({fields::kUltrasoundStart});
+    }
+}
+
+void Form5::refuseDates(std::initializer_list<int> cleared) {
+    exams_.life().boxes().message(biometry::kDateFormatMessage.toString());
+    for (const int index : cleared) {
+        field(index).setText({});
+    }
+}
+
+void Form5::onEmbryosChange() {
+    const QString text = field(fields::kEmbryos).text();
+    if (base::isNumeric(text)) {
+        embryos_ = base::toInt16(base::toNumber(text));
+    } else {
+        sheet.Frame5.hide();
+    }
+    if (embryos_ == 1) {
+        sheet.Frame5.hide();
+    } else if (embryos_ == 2 || embryos_ == kMostEmbryos) {
+        sheet.Frame5.show();
+        sheet.CmdJ1.show();
+        sheet.CmdJ2.show();
+        sheet.CmdJ3.setVisible(embryos_ == kMostEmbryos);
+    } else if (embryos_ > kMostEmbryos) {
+        // Emptying the field runs these steps again, with the number as it stands: the message comes twice.
+        field(fields::kEmbryos).setText({});
+        exams_.life().boxes().message(QStringLiteral("Désolé le logiciel ne traite pas plus de 3 foetus"));
+    }
+}
+
+void Form5::onDateFromLength() {
+    const auto start =
+        biometry::startFromCrownRump(field(fields::kCrownRumpLength).text(), exams_.life().around().clock.today());
+    start.orThrow();
+    if (start.kind() == biometry::Outcome::Kind::Refuse) {
+        exams_.life().boxes().message(start.text());
+    } else if (start.writes() && start.text() == field(fields::kUltrasoundStart).text()) {
+        onStartChange(fields::kUltrasoundStart);
+    } else if (start.writes()) {
+        field(fields::kUltrasoundStart).setText(start.text());
+    }
+}
+
+void Form5::paint(int embryo) {
+    sheet.showEmbryo(embryo);
+    sheet.Frame5.setBack(kEmbryoColors[static_cast<std::size_t>(embryo)]);
+}
+
+void Form5::save() {
+    sheet.panel.takeFreeEntries();
+    if (field(fields::kEmbryos).text().isEmpty()) {
+        exams_.life().boxes().message(QStringLiteral("Veuillez saisir le nombre d'embryons avant d'enregistrer."));
+        return;
+    }
+    if (!exams_.life().confirmSaving()) {
+        return;
+    }
+    {
+        const forms::BusyPointer busy(*this);
+        addRecord();
+    }
+    exams_.life().boxes().message(QStringLiteral("Enregistré"));
+    desk().show(Form6::kName.toString());
+    exams_.showLast();
+    hide();
+}
+
+void Form5::addRecord() {
+    const ExamLife& life = exams_.life();
+    life.openBase();
+    life.query(QStringLiteral("SELECT*FROM 1TER WHERE NUMERO=%1 ORDER BY NUMECHO").arg(life.dossierNumber()));
+    if (!base::isNumeric(field(fields::kEmbryos).text())) {
+        field(fields::kEmbryos).setText(QStringLiteral("0"));
+    }
+    store::Recordset& record = life.state().Rs;
+    record.addNew();
+    writeRecord(*this, QStringLiteral("Txt1Ter"), kFirstTrimesterFields, record);
+    record.update();
+}
+
+}  // namespace exams

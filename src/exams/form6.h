@@ -1,0 +1,120 @@
+#pragma once
+
+#include "exams/obstetric_exams.h"
+#include "forms/controls.h"
+#include "forms/form.h"
+
+namespace exams {
+
+/// Shows a saved first-trimester exam, and leads to its reports, its correction and the dossier's other exams.
+class Form6 final : public forms::Form {
+public:
+    static constexpr QStringView kName = u"Form6";
+
+    explicit Form6(ObstetricExams& exams);
+
+    forms::Menu Examens{*this, "Examens", "E&xamen"};
+    forms::Menu Echo1T{*this, "Echo1T", "Echo 1er Ter"};
+    forms::Menu Echo2T{*this, "Echo2T", "Echo 2 - 3 ème Ter"};
+    forms::Menu Modif{*this, "Modif", "Modifier"};
+    forms::Menu Supprim{*this, "Supprim", "Supprimer"};
+    forms::Menu Quitte{*this, "Quitte", "Quitter"};
+    forms::Menu Rapports{*this, "Rapports", "C&omptes Rendus"};
+    forms::Menu Cptrendu{*this, "Cptrendu", "Compte Rendu"};
+    forms::Menu Datation{*this, "Datation", "Datation"};
+    forms::Menu TypeCptR{*this, "TypeCptR", "&Type de Compte Rendu"};
+    forms::Menu CptrD{*this, "CptrD", "Compte Rendu Détaillé", true};
+    forms::Menu CptrM{*this, "CptrM", "Compte Rendu Minimum", false};
+    forms::Menu Intro{*this, "Intro", "Avec Introduction", true};
+    forms::Menu Aide{*this, "Aide", "A&ide"};
+
+    forms::Label LblNom{*this, "LblNom"};
+    forms::Label LblPrenom{*this, "LblPrenom"};
+    forms::Label LblNumInt{*this, "LblNumInt"};
+    forms::Label LblNumEcho{*this, "LblNumEcho"};
+    forms::Label LblDatExam{*this, "LblDatExam"};
+    forms::Label LblDatExamb{*this, "LblDatExamb"};
+    forms::Label LblAgeGesta{*this, "LblAgeGesta"};
+    forms::Label LblDDR{*this, "LblDDR"};
+    forms::Label LblDG{*this, "LblDG"};
+    forms::Label LblDGUS{*this, "LblDGUS"};
+    forms::Label LblIMC{*this, "LblIMC"};
+    forms::Label LblMachine{*this, "LblMachine"};
+    forms::Label LblDateCirc{*this, "LblDateCirc"};
+    forms::Label LblOperateur{*this, "LblOperateur"};
+    forms::Label LblModalites{*this, "LblModalites"};
+    forms::Label LblConditions{*this, "LblConditions"};
+    forms::TextBox TxtIndic{*this, "TxtIndic"};
+    forms::TextBox TxtUterus{*this, "TxtUterus"};
+    forms::TextBox TxtAnnexes{*this, "TxtAnnexes"};
+    forms::TextBox TxtDouglas{*this, "TxtDouglas"};
+    forms::Label LblNbr{*this, "LblNbr"};
+    forms::Label LblSituation{*this, "LblSituation"};
+    forms::Label LblDim{*this, "LblDim"};
+    forms::Label LblAspect{*this, "LblAspect"};
+    forms::Label LblNbrE{*this, "LblNbrE"};
+
+    forms::Frame Frame5{*this, "Frame5", "G Multiple", 3};
+    forms::Button CmdJ1{*this, "CmdJ1", "J1"};
+    forms::Button CmdJ2{*this, "CmdJ2", "J2"};
+    forms::Button CmdJ3{*this, "CmdJ3", "J3"};
+    forms::Frame FrameJ1{*this, "FrameJ1", "Embryon", 0};
+    forms::Frame FrameJ2{*this, "FrameJ2", "Embryon N°2", 1};
+    forms::Frame FrameJ3{*this, "FrameJ3", "Embryon N°3", 2};
+    forms::Array<forms::Label> LblMA{*this, "LblMA", 0, 2};
+    forms::Array<forms::Label> LblAC{*this, "LblAC", 0, 2};
+    forms::Array<forms::Label> LblLCC{*this, "LblLCC", 0, 2};
+    forms::Array<forms::Label> LblBip{*this, "LblBip", 0, 2};
+    forms::Array<forms::Label> LblFem{*this, "LblFem", 0, 2};
+    forms::Array<forms::Label> LblNuque{*this, "LblNuque", 0, 2};
+    forms::Array<forms::Label> LblOPN{*this, "LblOPN", 0, 2};
+    forms::Array<forms::TextBox> TxtMorpho{*this, "TxtMorpho", 0, 2};
+
+    forms::TextBox TxtLA{*this, "TxtLA"};
+    forms::TextBox TxtPl{*this, "TxtPl"};
+    forms::TextBox TxtConclu1{*this, "TxtConclu1"};
+
+    forms::Frame Frame12{*this, "Frame12", "Voir les autres Echos "};
+    forms::Button CmdPrem{*this, "CmdPrem", "1&er"};
+    forms::Button CmdRec{*this, "CmdRec", "&<"};
+    forms::Button CmdAv{*this, "CmdAv", "&>"};
+    forms::Button CmdDer{*this, "CmdDer", "De&r"};
+
+    forms::Button Hlb1T{*this, "Hlb1T", "Echo &1er Ter"};
+    forms::Button Hlb2T{*this, "Hlb2T", "Echo &2 - 3 ème Ter"};
+    forms::Button Command1{*this, "Command1", "&Cpt Rendu 1T"};
+    forms::Button Command2{*this, "Command2", "Cpt &Datation"};
+    forms::Button Command3{*this, "Command3", "&Photos"};
+    forms::Button CmdModifs{*this, "CmdModifs", "&Modifier"};
+    forms::Button CmdSupprime{*this, "CmdSupprime", "&Supprimer"};
+    forms::Button CmdQuitter{*this, "CmdQuitter", "&Quitter"};
+
+    void AFFCIVILITES();
+    /// Fills the window from the current record of `Rs`.
+    void AFFICHEVOIR();
+    /// Types the full report, or the short one of a dating, of the exam on show into the editor.
+    void CptRendu1T();
+    void CptRenduDat();
+    /// Deletes the exam in view.
+    void Supprime1T();
+
+    /// What the display routine does for an exam of this kind: the identity, the fields, the embryos' buttons.
+    void display();
+    /// Fills the window from the record just corrected. The body-mass index stays as shown before, the age is empty.
+    void refillAfterCorrection();
+
+private:
+    void load() override;
+    void unloading() override;
+    void wireMenus();
+    void wireButtons();
+    void showEmbryo(int which);
+    void adjustEmbryoButtons();
+    void chooseStyle(bool detailed);
+    void leaveByMenu();
+    bool writesSettings_ = true;
+
+    ObstetricExams& exams_;
+};
+
+}  // namespace exams

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QString>
+
+#include "exams/exam_life.h"
+
+namespace exams {
+
+/// The life of the obstetric exams: both families share one table, one numbering and one display routine.
+class ObstetricExams {
+public:
+    explicit ObstetricExams(ExamLife& life) : life_(life) {}
+
+    ExamLife& life() const { return life_; }
+
+    /// Opens the writing window of the family on a new exam.
+    void openNew(dossier::ExamFamily family);
+
+    /// Shows the exam under the shared cursor in the viewing window of its kind; the other one is hidden.
+    void display();
+    /// Shows the last exam of the open dossier, or says that there is none.
+    void showLast();
+
+    /// The number of the exam in view, as it is joined into a query; "0" if none is.
+    QString numberInView() const;
+
+    // Stepping among the exams of the dossier. At the edges the first or last one is shown again.
+    void showFirst();
+    void showFinal();
+    void showPrevious();
+    void showNext();
+
+    /// Puts the shared cursor on the exams of the dossier, in their order.
+    void reopenDossier();
+    /// The same, on the exam in view, so that stepping works again.
+    void bringCursorBack();
+
+    /// A new exam's number: that of the last record plus one, 1 for a dossier without any. Leaves the shared cursor on
+    /// the last exam.
+    QString nextNumber();
+
+    /// Hides or shows the buttons that step on the cursor as it stands, in both viewing windows.
+    void setStepping(bool possible);
+    /// What a writing window does when it goes: the cursor comes back, and the dossier window can't step on it.
+    void leaveWriting();
+
+    /// Writes the marks of the windows that are loaded into the settings file beside the program.
+    void keepReportStyle();
+
+    /// Asks twice, then deletes the exam in view and clears the writing window of the family; false if a question was
+    /// not answered Yes. The caller unloads its viewing window and then puts the cursor on the patients.
+    bool deleteInView(const QString& number);
+
+private:
+    void step(void (store::Recordset::*move)(), bool (store::Recordset::*fellOff)() const,
+              void (store::Recordset::*back)());
+    void showEnd(void (store::Recordset::*move)());
+    void closeBiometry();
+
+    ExamLife& life_;
+};
+
+/// Whether the exam under the cursor is one of the first trimester.
+bool isFirstTrimester(const store::Recordset& exam);
+
+}  // namespace exams

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <memory>
+
+class QPainter;
+
+namespace ports {
+
+/// The page of a printer. Twips are 1440 an inch.
+struct PageGeometry {
+    /// The whole sheet, in twips.
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+    /// Device pixels an inch, across and down.
+    std::int32_t dpiX = 0;
+    std::int32_t dpiY = 0;
+    /// What the printer can't reach at the left and at the top, in device pixels. A job's origin lies there.
+    std::int32_t physicalOffsetX = 0;
+    std::int32_t physicalOffsetY = 0;
+};
+
+/// A document on its way to a printer. Letting go of it ends the document.
+class PrintJob {
+public:
+    virtual ~PrintJob() = default;
+    /// Draws on the page at hand, in device pixels from the first point that can be printed.
+    virtual QPainter& painter() = 0;
+    /// Throws DeviceError if the printer refuses.
+    virtual void newPage() = 0;
+};
+
+/// One printer, with the paper it is to print on.
+class Printer {
+public:
+    virtual ~Printer() = default;
+    virtual PageGeometry geometry() const = 0;
+    /// Opens a document. Throws DeviceError if that fails.
+    virtual std::unique_ptr<PrintJob> open(const QString& title) = 0;
+};
+
+/// The printers of the machine.
+class Printers {
+public:
+    virtual ~Printers() = default;
+    /// The one that serves where none is chosen, with A4 paper upright; null on a machine without a printer.
+    virtual std::unique_ptr<Printer> standard() = 0;
+    /// Lets a person choose a printer and its paper, or a PDF file; null on Cancel.
+    virtual std::unique_ptr<Printer> choose() = 0;
+};
+
+}  // namespace ports

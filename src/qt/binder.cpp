@@ -1,0 +1,490 @@
+#include "qt/binder.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTextEdit>
+#include <QToolButton>
+#include <algorithm>
+
+#include "forms/desk.h"
+#include "qt/calendar_view.h"
+#include "qt/ink_icon.h"
+#include "qt/key_filter.h"
+#include "qt/list_model.h"
+#include "qt/list_view.h"
+#include "qt/page_view.h"
+#include "qt/section.h"
+
+namespace qt {
+namespace {
+
+using forms::Aspect;
+
+constexpr int kButtonHeight = 28;
+
+/// Calls a handler when the widget is clicked with one of the mouse's buttons.
+class ClickFilter final : public QObject {
+public:
+    ClickFilter(QWidget* watched, Qt::MouseButton button, std::function<void()> clicked)
+        : QObject(watched), button_(button), clicked_(std::move(clicked)) {
+        watched->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonRelease && static_cast<QMouseEvent*>(event)->button() == button_) {
+            clicked_();
+        }
+        return false;
+    }
+
+private:
+    Qt::MouseButton button_;
+    std::function<void()> clicked_;
+};
+
+// The program's texts end their lines with "\r\n", the editor's with "\n".
+QString toEditor(QString text) {
+    return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
+
+QString fromEditor(QString text) {
+    return text.replace(u'\n', QStringLiteral("\r\n"));
+}
+
+constexpr int kTwipsPerPixel = 15;
+
+void placeAt(QWidget* widget, const forms::Place& place) {
+    const auto pixels = [](int twips) { return qRound(static_cast<double>(twips) / kTwipsPerPixel); };
+    widget->setGeometry(pixels(place.left), pixels(place.top), qMax(0, pixels(place.width)),
+                        qMax(0, pixels(place.height)));
+}
+
+// Of a text of several lines, a place as the program counts it (a line end is two characters) and as the editor does.
+int toEditorPlace(const QString& text, int place) {
+    return place - static_cast<int>(text.left(place).count(QStringLiteral("\r\n")));
+}
+
+int fromEditorPlace(const QString& plain, int place) {
+    return place + static_cast<int>(plain.left(place).count(u'\n'));
+}
+
+struct Selected {
+    int start, length;
+    bool operator==(const Selected&) const = default;
+};
+
+Selected selectedIn(const QLineEdit* edit) {
+    return edit->hasSelectedText() ? Selected{edit->selectionStart(), edit->selectionLength()}
+                                   : Selected{edit->cursorPosition(), 0};
+}
+
+Selected selectedIn(const QPlainTextEdit* edit) {
+    const QString plain = edit->toPlainText();
+    const int start = fromEditorPlace(plain, edit->textCursor().selectionStart());
+    return {start, fromEditorPlace(plain, edit->textCursor().selectionEnd()) - start};
+}
+
+void selectIn(QLineEdit* edit, const forms::TextBox& control) {
+    edit->setSelection(control.selectionStart(), control.selectionLength());
+}
+
+void selectIn(QPlainTextEdit* edit, const forms::TextBox& control) {
+    QTextCursor cursor = edit->textCursor();
+    const int end = control.selectionStart() + control.selectionLength();
+    cursor.setPosition(toEditorPlace(control.text(), control.selectionStart()));
+    cursor.setPosition(toEditorPlace(control.text(), end), QTextCursor::KeepAnchor);
+    edit->setTextCursor(cursor);
+}
+
+bool shows(const QLineEdit* edit, const QString& text) {
+    return edit->text() == text;
+}
+
+bool shows(const QPlainTextEdit* edit, const QString& text) {
+    return edit->toPlainText() == toEditor(text);
+}
+
+void showText(QLineEdit* edit, const QString& text) {
+    edit->setText(text);
+    // A long text that nobody is writing shows its beginning.
+    if (!edit->hasFocus()) {
+        edit->home(false);
+    }
+}
+
+void showText(QPlainTextEdit* edit, const QString& text) {
+    edit->setPlainText(toEditor(text));
+}
+
+template <class Button>
+Button* bindSwitch(FormWindow& window, forms::Switch& control, Button* button, std::function<void()> pressed) {
+    auto sync = [&control, button](Aspect, int) {
+        button->setText(control.text());
+        button->setChecked(control.checked());
+    };
+    button->setAutoExclusive(false);
+    window.bind(control, button, sync);
+    sync(Aspect::Checked, -1);
+    QObject::connect(button, &QAbstractButton::clicked, &window, [&window, sync, pressed] {
+        window.act(pressed);
+        if (window.alive()) {
+            sync(Aspect::Checked, -1);
+        }
+    });
+    return button;
+}
+
+}  // namespace
+
+QLabel* Binder::label(forms::Label& control) {
+    auto* label = new QLabel;
+    label->setTextFormat(Qt::PlainText);
+    auto sync = [&control, label](Aspect, int) { label->setText(control.text()); };
+    window_.bind(control, label, sync);
+    sync(Aspect::Text, -1);
+    new ClickFilter(label, Qt::LeftButton,
+                    [this_ = &window_, &control] { this_->act([&control] { control.click(); }); });
+    return label;
+}
+
+template <class Edit>
+void Binder::bindKeys(forms::TextBox& control, Edit* edit) {
+    new KeyFilter(edit, {.filters = [&control] { return static_cast<bool>(control.onKey); },
+                         .typed = [this_ = &window_, &control](
+                                      forms::KeyPress& key) { this_->form().desk().act([&] { control.onKey(key); }); },
+                         .pressed =
+                             [this_ = &window_, &control](forms::Key key) {
+                                 if (control.onKeyDown) {
+                                     this_->act([&control, key] { control.onKeyDown(key); });
+                                 }
+                             }});
+}
+
+template <class Edit>
+void Binder::bindText(forms::TextBox& control, Edit* edit) {
+    const auto sync = [&control, edit](Aspect aspect, int) {
+        if (aspect == Aspect::Text) {
+            if (!shows(edit, control.text())) {
+                showText(edit, control.text());
+            }
+        } else if (aspect == Aspect::Selection &&
+                   selectedIn(edit) != Selected{control.selectionStart(), control.selectionLength()}) {
+            selectIn(edit, control);
+        }
+    };
+    window_.bind(control, edit, sync);
+    sync(Aspect::Text, -1);
+    bindKeys(control, edit);
+}
+
+template <class Edit>
+void Binder::followCaret(forms::TextBox& control, Edit* edit) {
+    const auto moved = [window = &window_, &control, edit] {
+        // While a character is typed the caret may be ahead of the text.
+        if (window->alive() && shows(edit, control.text())) {
+            const Selected now = selectedIn(edit);
+            control.select(now.start, now.length);
+        }
+    };
+    QObject::connect(edit, &Edit::selectionChanged, &window_, moved);
+    QObject::connect(edit, &Edit::cursorPositionChanged, &window_, moved);
+    QObject::connect(edit, &Edit::textChanged, &window_, moved);
+}
+
+QLineEdit* Binder::line(forms::TextBox& control, const QString& caption) {
+    auto* edit = new QLineEdit;
+    edit->setReadOnly(control.locked());
+    edit->setAccessibleName(caption);
+    bindText(control, edit);
+    FormWindow* window = &window_;
+    QObject::connect(edit, &QLineEdit::textEdited, window, [window, &control](const QString& text) {
+        window->act([&control, text] { control.setText(text); });
+    });
+    new PressFilter(edit, [window, &control](const QKeyEvent& event) {
+        const bool taken = isEnter(event) && window->alive() && control.onEnter;
+        if (taken) {
+            window->act([&control] { control.onEnter(); });
+        }
+        return taken;
+    });
+    followCaret(control, edit);
+    return edit;
+}
+
+QPlainTextEdit* Binder::memo(forms::TextBox& control, const QString& caption) {
+    auto* edit = new QPlainTextEdit;
+    edit->setReadOnly(control.locked());
+    edit->setAccessibleName(caption);
+    edit->setTabChangesFocus(true);
+    bindText(control, edit);
+    QObject::connect(edit, &QPlainTextEdit::textChanged, &window_, [this_ = &window_, &control, edit] {
+        if (this_->alive() && !shows(edit, control.text())) {
+            const QString text = fromEditor(edit->toPlainText());
+            this_->act([&control, text] { control.setText(text); });
+        }
+    });
+    followCaret(control, edit);
+    return edit;
+}
+
+QListView* Binder::list(forms::ListBox& control, const QString& caption) {
+    auto* view = new ListView;
+    view->setAccessibleName(caption);
+    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view->setUniformItemSizes(true);
+    auto* model = new ListModel(control, view);
+    view->setModel(model);
+    auto showRow = [&control, view, model] { view->setCurrentIndex(model->index(control.row())); };
+    window_.bind(control, view, [model, view, showRow, opened = false](Aspect aspect, int row) mutable {
+        if (aspect != Aspect::Row) {
+            model->follow(aspect, row);
+        }
+        showRow();
+        if (opened && aspect == Aspect::Row) {
+            view->showInTheMiddle();
+        }
+        opened = aspect == Aspect::Items;
+    });
+    FormWindow* window = &window_;
+    const auto chosen = [window, &control](int row, void (forms::Control::*event)()) {
+        window->act([&control, row, event] {
+            control.setRow(row);
+            (control.*event)();
+        });
+    };
+    window->atRetirement([model] { model->release(); });
+    QObject::connect(view->selectionModel(), &QItemSelectionModel::currentChanged, window,
+                     [&control, model](const QModelIndex& now) {
+                         if (now.isValid() && !model->following()) {
+                             control.setRow(now.row());
+                         }
+                     });
+    QObject::connect(view, &QListView::clicked, window,
+                     [chosen](const QModelIndex& at) { chosen(at.row(), &forms::Control::click); });
+    QObject::connect(view, &QListView::doubleClicked, window,
+                     [chosen](const QModelIndex& at) { chosen(at.row(), &forms::Control::doubleClick); });
+    new PressFilter(view, [view, chosen](const QKeyEvent& event) {
+        if (isEnter(event) && view->currentIndex().isValid()) {
+            chosen(view->currentIndex().row(), &forms::Control::doubleClick);
+        }
+        return isEnter(event);
+    });
+    bindPresses(control, view);
+    return view;
+}
+
+void Binder::bindPresses(forms::ListBox& control, QListView* view) {
+    FormWindow* window = &window_;
+    const auto run = [window, &control](std::function<void()> forms::ListBox::*slot) {
+        if (window->alive() && control.*slot) {
+            window->act([&control, slot] { (control.*slot)(); });
+        }
+    };
+    new ClickFilter(view->viewport(), Qt::RightButton, [run] { run(&forms::ListBox::onRightClick); });
+    new PressFilter(view, [run](const QKeyEvent& event) {
+        if (event.key() == Qt::Key_Menu) {
+            run(&forms::ListBox::onRightClick);
+        } else if (event.key() == Qt::Key_Escape) {
+            run(&forms::ListBox::onEscape);
+        }
+        return event.key() == Qt::Key_Menu || event.key() == Qt::Key_Escape;
+    });
+}
+
+CalendarView* Binder::calendar(forms::Calendar& control, const QString& caption) {
+    auto* view = new CalendarView(
+        [window = &window_, &control](QDate date) { window->act([&control, date] { control.choose(date); }); });
+    view->setAccessibleName(caption);
+    const auto sync = [&control, view](Aspect, int) {
+        if (control.date().isValid()) {
+            view->setSelectedDate(control.date());
+            view->setCurrentPage(control.date().year(), control.date().month());
+        }
+    };
+    window_.bind(control, view, sync);
+    sync(Aspect::Text, -1);
+    return view;
+}
+
+QComboBox* Binder::combo(forms::ComboBox& control, const QString& caption) {
+    auto* combo = new QuietComboBox;
+    combo->setEditable(true);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+    combo->setCompleter(nullptr);
+    combo->setAccessibleName(caption);
+    combo->lineEdit()->setAccessibleName(caption);
+    combo->lineEdit()->setReadOnly(control.locked());
+    auto sync = [&control, combo](Aspect aspect, int) {
+        if (aspect == Aspect::Items) {
+            combo->clear();
+            combo->addItems(control.items());
+        }
+        if (combo->currentText() != control.text()) {
+            combo->setEditText(control.text());
+        }
+    };
+    window_.bind(control, combo, sync);
+    combo->addItems(control.items());
+    combo->setEditText(control.text());
+    FormWindow* window = &window_;
+    QObject::connect(combo->lineEdit(), &QLineEdit::textEdited, window, [window, &control](const QString& text) {
+        window->act([&control, text] { control.setText(text); });
+    });
+    QObject::connect(combo, &QComboBox::textActivated, window, [window, &control](const QString& text) {
+        window->act([&control, text] {
+            control.setText(text);
+            control.click();
+        });
+    });
+    return combo;
+}
+
+QPushButton* Binder::button(forms::Button& control) {
+    auto* button = new QPushButton;
+    button->setAutoDefault(false);
+    button->setMinimumHeight(kButtonHeight);
+    auto sync = [&control, button](Aspect, int) { button->setText(control.text()); };
+    window_.bind(control, button, sync);
+    sync(Aspect::Text, -1);
+    QObject::connect(button, &QPushButton::clicked, &window_,
+                     [this_ = &window_, &control] { this_->act([&control] { control.click(); }); });
+    return button;
+}
+
+QRadioButton* Binder::option(forms::Option& control) {
+    return bindSwitch(window_, control, new QRadioButton, [&control] {
+        control.setChecked(true);
+        control.click();
+    });
+}
+
+QCheckBox* Binder::check(forms::Check& control) {
+    return bindSwitch(window_, control, new QCheckBox, [&control] {
+        control.setChecked(!control.checked());
+        control.click();
+    });
+}
+
+QToolButton* Binder::tool(forms::ToolButton& control) {
+    auto* button = new QToolButton;
+    button->setAutoRaise(true);
+    // A click leaves the focus, and the selection with it, where it is.
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setIcon(inkIcon(control.image().toLower().replace(u' ', u'-')));
+    button->setCheckable(control.toggles());
+    auto sync = [&control, button](Aspect, int) {
+        button->setToolTip(control.text());
+        button->setAccessibleName(control.text());
+        button->setChecked(control.checked());
+    };
+    window_.bind(control, button, sync);
+    sync(Aspect::Checked, -1);
+    QObject::connect(button, &QToolButton::clicked, &window_, [this_ = &window_, &control, sync] {
+        this_->act([&control] { control.click(); });
+        if (this_->alive()) {
+            sync(Aspect::Checked, -1);
+        }
+    });
+    return button;
+}
+
+PageView* Binder::page(forms::RichText& control, const QString& caption) {
+    auto* view = new PageView(control.document(), caption);
+    QTextEdit* edit = &view->edit();
+    const auto showSelection = [&control, edit] {
+        const QTextCursor& wanted = control.cursor();
+        const QTextCursor now = edit->textCursor();
+        if (now.anchor() != wanted.anchor() || now.position() != wanted.position()) {
+            edit->setTextCursor(wanted);
+        } else if (edit->currentCharFormat() != wanted.charFormat()) {
+            edit->setCurrentCharFormat(wanted.charFormat());
+        }
+    };
+    view->setLineWidth(control.lineWidth());
+    window_.bind(control, view, [&control, view, showSelection](Aspect aspect, int) {
+        if (aspect == Aspect::LineWidth) {
+            view->setLineWidth(control.lineWidth());
+        } else if (aspect == Aspect::Selection) {
+            showSelection();
+        } else if (aspect == Aspect::Place) {
+            placeAt(view, *control.place());
+        }
+    });
+    showSelection();
+    const auto follow = [this_ = &window_, &control, edit] {
+        const QTextCursor now = edit->textCursor();
+        this_->form().desk().act([&] { control.follow(now.anchor(), now.position()); });
+    };
+    QObject::connect(edit, &QTextEdit::cursorPositionChanged, &window_, follow);
+    QObject::connect(edit, &QTextEdit::selectionChanged, &window_, follow);
+    QObject::connect(edit, &QTextEdit::textChanged, &window_, follow);
+    window_.atRetirement([view] { view->release(); });
+    return view;
+}
+
+Section* Binder::section(forms::Frame& control) {
+    auto* section = new Section(control.text());
+    window_.bind(control, section, [&control, section](Aspect, int) { section->setTitle(control.text()); });
+    return section;
+}
+
+QMenuBar* Binder::menuBar() {
+    auto* bar = new QMenuBar;
+    for (forms::Control* control : window_.form().controls()) {
+        if (control->kind() == forms::Kind::Menu && !control->holder()) {
+            addEntry(bar, static_cast<forms::Menu&>(*control));
+        }
+    }
+    return bar;
+}
+
+void Binder::addEntry(QWidget* parent, forms::Menu& control) {
+    const auto& all = window_.form().controls();
+    const bool holdsOthers = std::any_of(all.begin(), all.end(), [&](const forms::Control* other) {
+        return other->kind() == forms::Kind::Menu && other->holder() == &control;
+    });
+    QAction* action = nullptr;
+    if (holdsOthers) {
+        auto* menu = new QMenu(parent);
+        for (forms::Control* other : all) {
+            if (other->kind() == forms::Kind::Menu && other->holder() == &control) {
+                addEntry(menu, static_cast<forms::Menu&>(*other));
+            }
+        }
+        action = menu->menuAction();
+    } else {
+        action = new QAction(parent);
+        action->setCheckable(control.hasMark());
+    }
+    parent->addAction(action);
+    const auto sync = [&control, action] {
+        action->setText(control.text());
+        action->setChecked(control.checked());
+    };
+    window_.bind(control, action, sync);
+    QObject::connect(action, &QAction::triggered, &window_, [this_ = &window_, &control, sync] {
+        this_->act([&control] { control.click(); });
+        if (this_->alive()) {
+            sync();
+        }
+    });
+}
+
+QWidget* Binder::plain(forms::Control& control, QWidget* widget) {
+    window_.bind(control, widget, [](Aspect, int) {});
+    return widget;
+}
+
+}  // namespace qt

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QComboBox>
+#include <QObject>
+#include <functional>
+
+#include "forms/control.h"
+
+class QKeyEvent;
+class QWidget;
+
+namespace qt {
+
+/// Stands between the keyboard and an editor: each typed character, also one that an input method commits, goes through
+/// the control's key filter first. Pasted text doesn't pass here.
+class KeyFilter final : public QObject {
+public:
+    struct Slots {
+        /// Whether there is a filter at present.
+        std::function<bool()> filters;
+        std::function<void(forms::KeyPress&)> typed;
+        std::function<void(forms::Key)> pressed;
+    };
+
+    KeyFilter(QWidget* editor, Slots slots);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool filterKey(QKeyEvent* event);
+    bool filterInput(QInputMethodEvent* event);
+    QString filtered(const QString& text) const;
+
+    QWidget* editor_;
+    Slots slots_;
+    bool sending_ = false;
+};
+
+/// Calls a handler at a key press; what the handler takes goes no further.
+class PressFilter final : public QObject {
+public:
+    PressFilter(QWidget* watched, std::function<bool(const QKeyEvent&)> pressed);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    std::function<bool(const QKeyEvent&)> pressed_;
+};
+
+bool isEnter(const QKeyEvent& event);
+
+/// Enter walks out of a field of one line as Tab does, Ctrl+Enter out of one of several lines.
+void walkOnAtEnter(QWidget* field);
+
+/// A combo box that the mouse wheel passes over without changing it.
+class QuietComboBox final : public QComboBox {
+public:
+    QuietComboBox() { setFocusPolicy(Qt::StrongFocus); }
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+};
+
+}  // namespace qt

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "exams/form5.h"
+#include "exams/form6.h"
+#include "exams/form7.h"
+#include "qt/form_window.h"
+
+namespace qt {
+
+void layOutForm5(exams::Form5& form, FormWindow& window);
+void layOutForm6(exams::Form6& form, FormWindow& window);
+void layOutForm7(exams::Form7& form, FormWindow& window);
+
+}  // namespace qt

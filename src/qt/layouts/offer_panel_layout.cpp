@@ -1,0 +1,78 @@
+#include "qt/layouts/offer_panel_layout.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+
+#include "qt/calendar_view.h"
+#include "qt/layouts/parts.h"
+
+namespace qt {
+namespace {
+
+constexpr int kPanelWidth = 344;
+
+/// Shows and hides a caption with its field.
+class CaptionFollower final : public QObject {
+public:
+    CaptionFollower(QLabel* caption, QWidget* field) : QObject(caption), caption_(caption) {
+        field->installEventFilter(this);
+        caption->setVisible(!field->isHidden());
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
+            caption_->setVisible(event->type() == QEvent::ShowToParent);
+        }
+        return false;
+    }
+
+private:
+    QLabel* caption_;
+};
+
+QListView* addList(QBoxLayout* column, const QString& caption, QListView* list, const QString& tip) {
+    list->setFocusPolicy(Qt::TabFocus);
+    list->setToolTip(tip);
+    auto* label = newCaption(caption, list);
+    new CaptionFollower(label, list);
+    column->addWidget(label);
+    column->addWidget(list, 1);
+    return list;
+}
+
+QBoxLayout* freeEntry(Binder& bind, forms::TextBox& box, const QString& caption) {
+    auto* entry = bind.line(box, caption);
+    entry->setToolTip(QStringLiteral("Entrée ajoute ce texte au champ"));
+    auto* row = newRow();
+    row->addWidget(newCaption(caption, entry));
+    row->addWidget(entry, 1);
+    return row;
+}
+
+}  // namespace
+
+QWidget* newOfferPanel(Binder& bind, const responses::PanelControls& controls, forms::TextBox* second) {
+    auto* panel = new QWidget;
+    panel->setFixedWidth(kPanelWidth);
+    auto* column = newColumn(panel);
+    addList(column, QStringLiteral("&Liste des réponses"),
+            bind.list(controls.List1, QStringLiteral("Réponses mémorisées")),
+            QStringLiteral("Double-cliquez sur une réponse, ou Entrée, pour l'ajouter au champ ; Echap y revient"));
+    addList(column, QStringLiteral("&Nombres"), bind.list(controls.List2, QStringLiteral("Nombres proposés")),
+            QStringLiteral("Double-cliquez sur un nombre, ou Entrée, pour l'ajouter au champ ; Echap y revient"));
+    column->addWidget(bind.calendar(controls.Calendar1, QStringLiteral("Calendrier")));
+    QBoxLayout* row = freeEntry(bind, controls.Text1, QStringLiteral("Texte libre"));
+    if (second) {
+        column->addLayout(row);
+        row = freeEntry(bind, *second, QStringLiteral("Texte libre 2"));
+    }
+    row->addWidget(bind.button(controls.CmdEfface));
+    column->addLayout(row);
+    return panel;
+}
+
+}  // namespace qt

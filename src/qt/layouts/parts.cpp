@@ -1,0 +1,45 @@
+#include "qt/layouts/parts.h"
+
+#include <QLabel>
+#include <QWidget>
+
+#include "qt/theme.h"
+
+namespace qt {
+namespace {
+
+template <class Layout>
+Layout* onGrid(Layout* layout, int margin) {
+    const int edge = margin * theme::kGrid;
+    layout->setContentsMargins(edge, edge, edge, edge);
+    layout->setSpacing(theme::kGrid);
+    return layout;
+}
+
+}  // namespace
+
+QVBoxLayout* newColumn(QWidget* parent, int margin) {
+    return onGrid(new QVBoxLayout(parent), margin);
+}
+
+QHBoxLayout* newRow(QWidget* parent, int margin) {
+    return onGrid(new QHBoxLayout(parent), margin);
+}
+
+QLabel* newCaption(const QString& text, QWidget* field) {
+    auto* caption = new QLabel(text);
+    caption->setBuddy(field);
+    return caption;
+}
+
+void setTabOrder(std::initializer_list<QWidget*> widgets) {
+    QWidget* before = nullptr;
+    for (QWidget* widget : widgets) {
+        if (before) {
+            QWidget::setTabOrder(before, widget);
+        }
+        before = widget;
+    }
+}
+
+}  // namespace qt

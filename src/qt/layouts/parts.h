@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QBoxLayout>
+#include <initializer_list>
+
+class QLabel;
+class QWidget;
+
+namespace qt {
+
+/// A column or a row with the margins and gaps of the grid; `margin` in steps of it.
+QVBoxLayout* newColumn(QWidget* parent = nullptr, int margin = 0);
+QHBoxLayout* newRow(QWidget* parent = nullptr, int margin = 0);
+
+/// A caption that leads to its field: an Alt key in it moves the focus there.
+QLabel* newCaption(const QString& text, QWidget* field);
+
+/// Tab walks these widgets in this order.
+void setTabOrder(std::initializer_list<QWidget*> widgets);
+
+}  // namespace qt

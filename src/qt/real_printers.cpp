@@ -1,0 +1,119 @@
+#include "qt/real_printers.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <cmath>
+
+#include "base/errors.h"
+
+namespace qt {
+namespace {
+
+constexpr double kTwipsPerMillimetre = 1440 / 25.4;
+
+std::int32_t twips(double millimetres) {
+    return static_cast<std::int32_t>(std::lround(millimetres * kTwipsPerMillimetre));
+}
+
+class RealJob final : public ports::PrintJob {
+public:
+    explicit RealJob(std::shared_ptr<QPrinter> printer) : printer_(std::move(printer)) {
+        if (!painter_.begin(printer_.get())) {
+            throw base::RuntimeError(base::ErrorNumber::DeviceError);
+        }
+    }
+
+    QPainter& painter() override { return painter_; }
+    void newPage() override {
+        if (!printer_->newPage()) {
+            throw base::RuntimeError(base::ErrorNumber::DeviceError);
+        }
+    }
+
+private:
+    std::shared_ptr<QPrinter> printer_;
+    QPainter painter_;
+};
+
+class RealPrinter final : public ports::Printer {
+public:
+    explicit RealPrinter(std::unique_ptr<QPrinter> printer) : printer_(std::move(printer)) {
+        // The margins are the program's own matter: the printer keeps what it can't do without. Both are told in the
+        // unit that the layout has at the moment.
+        const QPageLayout layout = printer_->pageLayout();
+        printer_->setFullPage(false);
+        printer_->setPageMargins(layout.minimumMargins(), layout.units());
+    }
+
+    ports::PageGeometry geometry() const override {
+        const QPageLayout layout = printer_->pageLayout();
+        const QSizeF sheet = layout.fullRect(QPageLayout::Millimeter).size();
+        const QMargins edge = layout.marginsPixels(printer_->resolution());
+        return {.width = twips(sheet.width()),
+                .height = twips(sheet.height()),
+                .dpiX = printer_->logicalDpiX(),
+                .dpiY = printer_->logicalDpiY(),
+                .physicalOffsetX = edge.left(),
+                .physicalOffsetY = edge.top()};
+    }
+
+    std::unique_ptr<ports::PrintJob> open(const QString& title) override {
+        printer_->setDocName(title);
+        return std::make_unique<RealJob>(printer_);
+    }
+
+private:
+    std::shared_ptr<QPrinter> printer_;
+};
+
+void putA4Upright(QPrinter& printer) {
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setPageOrientation(QPageLayout::Portrait);
+}
+
+std::unique_ptr<QPrinter> newPdf() {
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setOutputFormat(QPrinter::PdfFormat);
+    printer->setOutputFileName(QDir::home().filePath(QStringLiteral("compte-rendu.pdf")));
+    return printer;
+}
+
+}  // namespace
+
+std::unique_ptr<QPrinter> RealPrinters::makeStandard() const {
+    if (QPrinterInfo::availablePrinterNames().isEmpty()) {
+        return nullptr;
+    }
+    return std::make_unique<QPrinter>(QPrinter::HighResolution);
+}
+
+std::unique_ptr<ports::Printer> RealPrinters::standard() {
+    auto printer = makeStandard();
+    if (!printer) {
+        return nullptr;
+    }
+    putA4Upright(*printer);
+    return std::make_unique<RealPrinter>(std::move(printer));
+}
+
+std::unique_ptr<ports::Printer> RealPrinters::choose() {
+    auto printer = makeStandard();
+    if (!printer) {
+        printer = newPdf();
+    }
+    putA4Upright(*printer);
+    QPrintDialog dialog(printer.get(), QApplication::activeWindow());
+    dialog.setObjectName(QStringLiteral("print"));
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+    if (dialog.exec() != QDialog::Accepted) {
+        return nullptr;
+    }
+    settle(*printer);
+    return std::make_unique<RealPrinter>(std::move(printer));
+}
+
+}  // namespace qt

@@ -1,0 +1,145 @@
+#include "qt/theme.h"
+
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QFontDatabase>
+#include <QIcon>
+#include <QPainter>
+#include <QPalette>
+#include <QProxyStyle>
+#include <QStyleOption>
+
+// A static library hands over its resources only when asked to.
+static void loadArtwork() {
+    Q_INIT_RESOURCE(artwork);
+}
+
+namespace qt::theme {
+namespace {
+
+constexpr qreal kTextPoints = 10;
+
+/// Draws the frame of a text or list that has the focus in the accent colour, as that of a field of one line, and gives
+/// boxes and circles to tick an edge that a dark palette shows.
+class FocusFrameStyle final : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        const bool framed = element == CE_ShapedFrame && qobject_cast<const QAbstractScrollArea*>(widget);
+        if (framed && option->state.testFlag(State_HasFocus)) {
+            painter->save();
+            painter->setPen(option->palette.color(QPalette::Highlight));
+            painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+            painter->restore();
+        }
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        const bool circle = element == PE_IndicatorRadioButton;
+        if ((circle || element == PE_IndicatorCheckBox) && isDark()) {
+            painter->save();
+            painter->setRenderHint(QPainter::Antialiasing, circle);
+            painter->setPen(option->palette.color(QPalette::PlaceholderText));
+            painter->setBrush(Qt::NoBrush);
+            const QRect edge = option->rect.adjusted(0, 0, -1, -1);
+            circle ? painter->drawEllipse(edge) : painter->drawRect(edge);
+            painter->restore();
+        }
+    }
+};
+
+QPalette paletteOf(QColor window, QColor base, QColor text, QColor accent) {
+    QPalette palette(window, window);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, window);
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText, QPalette::ToolTipText}) {
+        palette.setColor(role, text);
+    }
+    QColor faint = text;
+    faint.setAlpha(110);
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, role, faint);
+    }
+    palette.setColor(QPalette::PlaceholderText, faint);
+    palette.setColor(QPalette::ToolTipBase, base);
+    palette.setColor(QPalette::Highlight, accent);
+    palette.setColor(QPalette::Link, accent);
+    return palette;
+}
+
+QPalette lightPalette() {
+    QPalette palette =
+        paletteOf(QColor(0xf4, 0xf5, 0xf6), Qt::white, QColor(0x20, 0x26, 0x2b), QColor(0x0b, 0x6b, 0x7d));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+QPalette darkPalette() {
+    QPalette palette = paletteOf(QColor(0x2a, 0x2e, 0x32), QColor(0x1e, 0x21, 0x24), QColor(0xe6, 0xe9, 0xeb),
+                                 QColor(0x4f, 0xb8, 0xc9));
+    palette.setColor(QPalette::HighlightedText, QColor(0x10, 0x16, 0x18));
+    return palette;
+}
+
+QPalette wantedPalette() {
+    const QByteArray wanted = qgetenv("VERANOX_PALETTE");
+    if (wanted == "claire") {
+        return lightPalette();
+    }
+    if (wanted == "sombre") {
+        return darkPalette();
+    }
+    QPalette palette = QApplication::palette();
+    const bool dark = palette.color(QPalette::Window).lightness() < 128;
+    const QPalette own = dark ? darkPalette() : lightPalette();
+    for (const auto role : {QPalette::Highlight, QPalette::HighlightedText, QPalette::Link}) {
+        palette.setColor(role, own.color(role));
+    }
+    return palette;
+}
+
+}  // namespace
+
+void apply(QApplication& application) {
+    loadArtwork();
+    QApplication::setStyle(new FocusFrameStyle(QStringLiteral("Fusion")));
+    QApplication::setPalette(wantedPalette());
+    QFont font = QApplication::font();
+    font.setPointSizeF(kTextPoints);
+    QApplication::setFont(font);
+    application.setWindowIcon(windowIcon());
+}
+
+bool isDark() {
+    return QApplication::palette().color(QPalette::Window).lightness() < 128;
+}
+
+QFont sectionFont() {
+    QFont font = QApplication::font();
+    font.setBold(true);
+    return font;
+}
+
+QFont fixedFont() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPointSizeF(kTextPoints);
+    return font;
+}
+
+QFont headingFont() {
+    QFont font = QApplication::font();
+    font.setPointSizeF(kTextPoints * 1.5);
+    font.setBold(true);
+    return font;
+}
+
+QIcon windowIcon() {
+    return QIcon(QStringLiteral(":/artwork/icon.svg"));
+}
+
+}  // namespace qt::theme

@@ -1,0 +1,42 @@
+#include "reports/wisiwi.h"
+
+#include "reports/twips.h"
+
+namespace reports {
+
+PrintableArea WYSIWYG_RTF(forms::RichText& editor, const ports::PageGeometry& page, const Margins& margins) {
+    const std::int32_t leftOffset = toTwips(page.physicalOffsetX, page.dpiX);
+    const std::int32_t left = subtract(margins.left, leftOffset);
+    const std::int32_t right = subtract(subtract(page.width, margins.right), leftOffset);
+    // By the horizontal measure, like the left one; both measures agree on every printer at hand.
+    const std::int32_t topOffset = toTwips(page.physicalOffsetY, page.dpiX);
+    const std::int32_t top = subtract(margins.top, topOffset);
+    const std::int32_t bottom = subtract(subtract(page.height, margins.bottom), topOffset);
+    const PrintableArea area{subtract(right, left), subtract(bottom, top)};
+    editor.setLineWidth(area.width);
+    return area;
+}
+
+Rectangle drawingRectangle(const ports::PageGeometry& page, const Margins& margins) {
+    const std::int32_t leftOffset = toTwips(page.physicalOffsetX, page.dpiX);
+    const std::int32_t topOffset = toTwips(page.physicalOffsetY, page.dpiY);
+    return {subtract(margins.left, leftOffset), subtract(margins.top, topOffset),
+            subtract(subtract(page.width, margins.right), leftOffset),
+            subtract(subtract(page.height, margins.bottom), topOffset)};
+}
+
+void printPages(PageRenderer& renderer, ports::PrintJob& job, int textLength) {
+    for (int first = 0; (first = renderer.render(job.painter(), first)) < textLength;) {
+        job.newPage();
+    }
+}
+
+void PrintRTF(const forms::RichText& editor, ports::Printer& printer, const QString& title, const Margins& margins) {
+    const ports::PageGeometry page = printer.geometry();
+    const Rectangle drawing = drawingRectangle(page, margins);
+    const std::unique_ptr<ports::PrintJob> job = printer.open(title);
+    TextRenderer renderer(editor.document(), drawing, page);
+    printPages(renderer, *job, renderer.textLength());
+}
+
+}  // namespace reports

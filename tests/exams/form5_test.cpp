@@ -1,0 +1,464 @@
+#include "exams/form5.h"
+
+#include "exams/exam_windows.h"
+
+namespace exams {
+namespace {
+
+class WritingWindow : public ExamWindows {
+protected:
+    void save(Form5& form) {
+        world_.boxes.answers = {true};
+        press(form.CmdEnregis);
+    }
+};
+
+TEST_F(WritingWindow, OpensEmptyOnTheFirstExamOfADossier) {
+    Form5& form = newExam();
+    EXPECT_EQ(form.sheet.TxtNumEcho.text(), "1");
+    EXPECT_EQ(form.sheet.TxtDate.text(), "05/04/2002");
+    EXPECT_EQ(form.sheet.TxtTypecho.text(), "1");
+    EXPECT_EQ(form.sheet.LblNom.text(), "DUPONT");
+    EXPECT_EQ(form.sheet.LblPrenom.text(), "Marie");
+    EXPECT_EQ(form.sheet.LblNumInt.text(), "2");
+    EXPECT_EQ(form.sheet.LblMachine.text(), "");
+    EXPECT_EQ(form.focused(), &form.sheet.Txt1Ter(1));
+    for (int i = 0; i <= 42; ++i) {
+        EXPECT_EQ(form.sheet.Txt1Ter(i).text(), "") << i;
+    }
+    EXPECT_TRUE(shown("Form5"));
+}
+
+TEST_F(WritingWindow, TakesTheLastRowOfTheDeviceAndItsDate) {
+    store(14, "Ancien");
+    store(14, "ORIVANNE");
+    store(15, "01/02/2001");
+    Form5& form = newExam();
+    EXPECT_EQ(form.sheet.LblMachine.text(), "ORIVANNE");
+    EXPECT_EQ(form.sheet.LblDateCirc.text(), "01/02/2001");
+}
+
+TEST_F(WritingWindow, NumbersOnFromTheHighestAndLeavesGaps) {
+    addExam(2, 1, "10/01/2002");
+    addExam(2, 2, "11/02/2002", {{"TYPECHO", "2"}});
+    addExam(2, 3, "12/03/2002");
+    addExam(3, 7, "12/03/2002");
+    EXPECT_EQ(newExam().sheet.TxtNumEcho.text(), "4");
+    auto rows = store::Database::open(fakes::pathOf(world_, store::FileKind::Echo))
+                    .openRecordset("SELECT*FROM 1TER WHERE NUMERO=2And NUMECHO=2");
+    rows.remove();
+    EXPECT_EQ(newExam().sheet.TxtNumEcho.text(), "4");
+    rows = store::Database::open(fakes::pathOf(world_, store::FileKind::Echo))
+               .openRecordset("SELECT*FROM 1TER WHERE NUMERO=2And NUMECHO=3");
+    rows.remove();
+    EXPECT_EQ(newExam().sheet.TxtNumEcho.text(), "2");
+}
+
+TEST_F(WritingWindow, ClearsItselfButForTheCircumferencesTheFrameAndTheColour) {
+    Form5& form = newExam();
+    form.TxtCa1.setText("55");
+    form.sheet.Txt1Ter(5).setText("Voie abdominale");
+    form.sheet.LblAgeGesta.setText("12");
+    form.sheet.TxtPds.setText("60");
+    press(form.sheet.CmdJ2);
+    form.sheet.TxtTypecho.setText("3");
+    newExam();
+    EXPECT_EQ(form.TxtCa1.text(), "55");
+    EXPECT_EQ(form.sheet.TxtTypecho.text(), "3");
+    EXPECT_EQ(form.sheet.Txt1Ter(5).text(), "");
+    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "");
+    EXPECT_EQ(form.sheet.TxtPds.text(), "");
+    EXPECT_TRUE(form.sheet.FrameJ2.visible());
+    EXPECT_EQ(form.sheet.Frame5.back(), 0xFFFFFFU);
+}
+
+TEST_F(WritingWindow, ALastPeriodGivesTheTheoreticalStartAndTheAge) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(2), "01/03/2002");
+    EXPECT_EQ(form.sheet.Txt1Ter(3).text(), "15/03/2002");
+    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "5");
+}
+
+TEST_F(WritingWindow, WhicheverStartChangedLastDecidesTheAge) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(3), "01/03/2002");
+    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "7");
+    write(form.sheet.Txt1Ter(4), "04/03/2002");
+    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "6,4");
+    write(form.sheet.Txt1Ter(4), "");
+    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "");
+}
+
+TEST_F(WritingWindow, NothingFiresWhileADateIsStillBeingTyped) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(2), "01/03/");
+    write(form.sheet.Txt1Ter(2), "01/03/200");
+    EXPECT_EQ(form.sheet.Txt1Ter(3).text(), "");
+    EXPECT_TRUE(world_.boxes.said.isEmpty());
+}
+
+TEST_F(WritingWindow, ChangingTheExamDateLeavesTheAge) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(3), "01/03/2002");
+    write(form.sheet.TxtDate, "12/04/2002");
+    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "7");
+}
+
+const QString kDateFormat = QStringLiteral("Veuillez saisir les dates selon le format JJ/MM/AA");
+
+TEST_F(WritingWindow, AnUnreadableExamDateEmptiesBothFieldsOfTheTheoreticalStart) {
+    Form5& form = newExam();
+    write(form.sheet.TxtDate, "hier");
+    write(form.sheet.Txt1Ter(2), "01/03/2002");
+    EXPECT_EQ(world_.boxes.said, QStringList({kDateFormat}));
+    EXPECT_EQ(form.sheet.Txt1Ter(2).text(), "");
+    EXPECT_EQ(form.sheet.Txt1Ter(3).text(), "");
+    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "");
+}
+
+TEST_F(WritingWindow, AnUnreadableExamDateEmptiesTheUltrasoundStartAlone) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(3), "01/03/2002");
+    write(form.sheet.TxtDate, "hier");
+    write(form.sheet.Txt1Ter(4), "01/03/2002");
+    EXPECT_EQ(world_.boxes.said, QStringList({kDateFormat}));
+    EXPECT_EQ(form.sheet.Txt1Ter(4).text(), "");
+    EXPECT_EQ(form.sheet.Txt1Ter(3).text(), "01/03/2002");
+}
+
+TEST_F(WritingWindow, ALastPeriodAtTheEndOfTheCalendarIsRefusedAndStays) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(2), "25/12/9999");
+    EXPECT_EQ(world_.boxes.said, QStringList({kDateFormat}));
+    EXPECT_EQ(form.sheet.Txt1Ter(2).text(), "25/12/9999");
+}
+
+TEST_F(WritingWindow, TheCrownRumpLengthGivesTheStartCountedFromToday) {
+    Form5& form = newExam();
+    write(form.sheet.TxtDate, "01/04/2002");
+    write(form.sheet.Txt1Ter(18), "60");
+    press(form.Command2);
+    // 05/04/2002 less 87 days plus 14.
+    EXPECT_EQ(form.sheet.Txt1Ter(4).text(), "22/01/2002");
+    // 69 days to 01/04: 9 weeks 6 days.
+    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "11,6");
+}
+
+TEST_F(WritingWindow, TheButtonRecomputesTheAgeAlsoWhenTheStartStaysTheSame) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(18), "60");
+    press(form.Command2);
+    write(form.sheet.Txt1Ter(3), "01/03/2002");
+    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "7");
+    press(form.Command2);
+    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "12,3");
+}
+
+TEST_F(WritingWindow, ALengthAbove85IsRefusedAndNoneDoesNothing) {
+    Form5& form = newExam();
+    press(form.Command2);
+    EXPECT_TRUE(world_.boxes.said.isEmpty());
+    write(form.sheet.Txt1Ter(18), "86");
+    press(form.Command2);
+    EXPECT_EQ(world_.boxes.said,
+              QStringList({"Valeur de LCC trop élevée, Calculez l 'âge gestationnel à l'aide du Fémur et du Bip"}));
+    EXPECT_EQ(form.sheet.Txt1Ter(4).text(), "");
+}
+
+TEST_F(WritingWindow, ComputesTheBodyMassIndex) {
+    Form5& form = newExam();
+    write(form.sheet.TxtPds, "60");
+    EXPECT_EQ(form.sheet.Txt1Ter(0).text(), "");
+    write(form.sheet.TxtTaille, "170");
+    EXPECT_EQ(form.sheet.Txt1Ter(0).text(), "20,8");
+    write(form.sheet.TxtPds, "");
+    EXPECT_EQ(form.sheet.Txt1Ter(0).text(), "");
+}
+
+TEST_F(WritingWindow, AHeightOfZeroEndsInTheDefaultReport) {
+    Form5& form = newExam();
+    write(form.sheet.TxtPds, "60");
+    write(form.sheet.TxtTaille, "0");
+    EXPECT_EQ(world_.boxes.reported, QList<int>({11}));
+}
+
+TEST_F(WritingWindow, WeightAndHeightTakeDigitsAlone) {
+    Form5& form = newExam();
+    for (forms::TextBox* box : {&form.sheet.TxtPds, &form.sheet.TxtTaille}) {
+        for (const QChar c : QStringLiteral("1a,7.0")) {
+            type(*box, c);
+        }
+        EXPECT_EQ(box->text(), "170");
+    }
+}
+
+TEST_F(WritingWindow, TheTwoCountsHoldOneDigit) {
+    Form5& form = newExam();
+    for (const int count : {11, 15}) {
+        forms::TextBox& box = form.sheet.Txt1Ter(count);
+        type(box, u'1');
+        type(box, u'2');
+        EXPECT_EQ(box.text(), "2");
+        type(box, u'x');
+        EXPECT_EQ(box.text(), "");
+    }
+}
+
+TEST_F(WritingWindow, OnlyTheFirstLengthFiltersItsKeys) {
+    Form5& form = newExam();
+    for (const QChar c : QStringLiteral("6b0")) {
+        type(form.sheet.Txt1Ter(18), c);
+        type(form.sheet.Txt1Ter(29), c);
+        type(form.sheet.Txt1Ter(37), c);
+    }
+    EXPECT_EQ(form.sheet.Txt1Ter(18).text(), "60");
+    EXPECT_EQ(form.sheet.Txt1Ter(29).text(), "6b0");
+    EXPECT_EQ(form.sheet.Txt1Ter(37).text(), "6b0");
+}
+
+TEST_F(WritingWindow, TheNumberOfEmbryosShowsThePanelAndItsButtons) {
+    Form5& form = newExam();
+    FirstTrimesterSheet& sheet = form.sheet;
+    write(sheet.Txt1Ter(15), "2");
+    EXPECT_TRUE(sheet.Frame5.visible() && sheet.CmdJ1.visible() && sheet.CmdJ2.visible());
+    EXPECT_FALSE(sheet.CmdJ3.visible());
+    write(sheet.Txt1Ter(15), "3");
+    EXPECT_TRUE(sheet.Frame5.visible() && sheet.CmdJ3.visible());
+    write(sheet.Txt1Ter(15), "0");
+    EXPECT_TRUE(sheet.Frame5.visible());
+    write(sheet.Txt1Ter(15), "1");
+    EXPECT_FALSE(sheet.Frame5.visible());
+    write(sheet.Txt1Ter(15), "0");
+    EXPECT_FALSE(sheet.Frame5.visible());
+    EXPECT_TRUE(sheet.FrameJ1.visible());
+}
+
+TEST_F(WritingWindow, FourEmbryosAreRefusedTwiceAndThePanelEndsHidden) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(15), "2");
+    write(form.sheet.Txt1Ter(15), "4");
+    const QString refusal = QStringLiteral("Désolé le logiciel ne traite pas plus de 3 foetus");
+    EXPECT_EQ(world_.boxes.said, QStringList({refusal, refusal}));
+    EXPECT_EQ(form.sheet.Txt1Ter(15).text(), "");
+    EXPECT_FALSE(form.sheet.Frame5.visible());
+}
+
+TEST_F(WritingWindow, AnOpeningEndsWithThePanelHidden) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(15), "2");
+    newExam();
+    EXPECT_FALSE(form.sheet.Frame5.visible());
+}
+
+TEST_F(WritingWindow, EachButtonBringsOneEmbryoInViewAndPaintsThePanel) {
+    Form5& form = newExam();
+    FirstTrimesterSheet& sheet = form.sheet;
+    press(sheet.CmdJ2);
+    EXPECT_TRUE(!sheet.FrameJ1.visible() && sheet.FrameJ2.visible() && !sheet.FrameJ3.visible());
+    EXPECT_EQ(sheet.Frame5.back(), 0xFFFFFFU);
+    press(sheet.CmdJ3);
+    EXPECT_TRUE(!sheet.FrameJ1.visible() && !sheet.FrameJ2.visible() && sheet.FrameJ3.visible());
+    EXPECT_EQ(sheet.Frame5.back(), 0xFFC0C0U);
+    press(sheet.CmdJ1);
+    EXPECT_TRUE(sheet.FrameJ1.visible() && !sheet.FrameJ2.visible() && !sheet.FrameJ3.visible());
+    EXPECT_EQ(sheet.Frame5.back(), 0xC0FFFFU);
+}
+
+TEST_F(WritingWindow, TheFocusOffersWhatTheFieldHasInItsRow) {
+    store(2, "Voie abdominale.");
+    Form5& form = newExam();
+    form.sheet.Txt1Ter(5).setFocus();
+    EXPECT_EQ(form.sheet.List1.items(), QStringList({"Voie abdominale. "}));
+    form.sheet.Txt1Ter(0).setFocus();
+    EXPECT_EQ(form.sheet.List1.count(), 1);
+    form.sheet.Txt1Ter(2).setFocus();
+    EXPECT_EQ(form.sheet.List1.count(), 0);
+    EXPECT_TRUE(form.sheet.Calendar1.visible());
+    form.sheet.Txt1Ter(21).setFocus();
+    EXPECT_FALSE(form.sheet.Calendar1.visible());
+    EXPECT_TRUE(form.sheet.List2.visible());
+    EXPECT_EQ(form.sheet.List2.count(), 45);
+    EXPECT_EQ(form.sheet.List2.items().first(), "0,6");
+    EXPECT_EQ(form.sheet.List2.items().last(), "5");
+    EXPECT_EQ(form.sheet.List2.text(), "2");
+}
+
+TEST_F(WritingWindow, SavesNothingWithoutTheNumberOfEmbryos) {
+    Form5& form = newExam();
+    save(form);
+    EXPECT_EQ(world_.boxes.said, QStringList({"Veuillez saisir le nombre d'embryons avant d'enregistrer."}));
+    EXPECT_TRUE(world_.boxes.asked.isEmpty());
+    EXPECT_TRUE(stored(2, "NUMECHO").isEmpty());
+}
+
+TEST_F(WritingWindow, AnAnswerOfNoLeavesTheWindowWithItsEntries) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(15), "1");
+    world_.boxes.answers = {false};
+    press(form.CmdEnregis);
+    EXPECT_EQ(world_.boxes.asked, QStringList({"Voulez vous vraiment enregistrer ce compte rendu ?"}));
+    EXPECT_TRUE(stored(2, "NUMECHO").isEmpty());
+    EXPECT_TRUE(shown("Form5"));
+    EXPECT_EQ(form.sheet.Txt1Ter(15).text(), "1");
+}
+
+TEST_F(WritingWindow, SavesEachFieldAsText) {
+    store(14, "ORIVANNE");
+    store(15, "01/02/2001");
+    Form5& form = newExam();
+    for (int i = 0; i <= 42; ++i) {
+        form.sheet.Txt1Ter(i).setText(QStringLiteral("t%1").arg(i));
+    }
+    form.sheet.Txt1Ter(15).setText("1");
+    form.TxtCa1.setText("c1");
+    form.TxtCa2.setText("c2");
+    form.TxtCa3.setText("c3");
+    form.sheet.LblAgeGesta.setText("12,3");
+    save(form);
+    EXPECT_EQ(world_.boxes.said, QStringList({"Enregistré"}));
+    EXPECT_EQ(form.pointer(), forms::Pointer::Normal);
+    // Copied by hand from the sheet of the practice, not from the program's own rows.
+    const std::vector<std::pair<const char*, const char*>> expected{{"MACHINE", "ORIVANNE"},
+                                                                    {"DATECIRC", "01/02/2001"},
+                                                                    {"Numero", "2"},
+                                                                    {"TYPECHO", "1"},
+                                                                    {"NUMECHO", "1"},
+                                                                    {"AGESTA", "12,3"},
+                                                                    {"DATEXAM", "05/04/2002"},
+                                                                    {"BMI", "t0"},
+                                                                    {"OPERATEUR", "t1"},
+                                                                    {"DDR", "t2"},
+                                                                    {"DG", "t3"},
+                                                                    {"DGUS", "t4"},
+                                                                    {"MODEXAM", "t5"},
+                                                                    {"CONDITIONS", "t6"},
+                                                                    {"INDI", "t7"},
+                                                                    {"UTERUS", "t8"},
+                                                                    {"ANNEXES", "t9"},
+                                                                    {"DOUGLAS", "t10"},
+                                                                    {"NBRS", "t11"},
+                                                                    {"SITUATION", "t12"},
+                                                                    {"DIM", "t13"},
+                                                                    {"ASPECT", "t14"},
+                                                                    {"NBRE", "1"},
+                                                                    {"MA", "t16"},
+                                                                    {"AC", "t17"},
+                                                                    {"LCC", "t18"},
+                                                                    {"BIP", "t19"},
+                                                                    {"FEM", "t20"},
+                                                                    {"NUQUE", "t21"},
+                                                                    {"OSNEZ", "t22"},
+                                                                    {"MORPHO", "t23"},
+                                                                    {"CA", "c1"},
+                                                                    {"LA", "t24"},
+                                                                    {"PL", "t25"},
+                                                                    {"CONCLU1", "t26"},
+                                                                    {"MA2", "t27"},
+                                                                    {"AC2", "t28"},
+                                                                    {"LCC2", "t29"},
+                                                                    {"BIP2", "t30"},
+                                                                    {"FEM2", "t31"},
+                                                                    {"NUQUE2", "t32"},
+                                                                    {"OSNEZ2", "t33"},
+                                                                    {"MORPHO2", "t34"},
+                                                                    {"CA2", "c2"},
+                                                                    {"MA3", "t35"},
+                                                                    {"AC3", "t36"},
+                                                                    {"LCC3", "t37"},
+                                                                    {"BIP3", "t38"},
+                                                                    {"FEM3", "t39"},
+                                                                    {"NUQUE3", "t40"},
+                                                                    {"OSNEZ3", "t41"},
+                                                                    {"MORPHO3", "t42"},
+                                                                    {"CA3", "c3"}};
+    for (const auto& [field, text] : expected) {
+        EXPECT_EQ(stored(2, field), QStringList({text})) << field;
+    }
+}
+
+TEST_F(WritingWindow, ASavedSingletonHasEmptyTextsForTheOtherEmbryos) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(15), "1");
+    save(form);
+    EXPECT_EQ(stored(2, "LCC2"), QStringList({""}));
+    EXPECT_EQ(stored(2, "MORPHO3"), QStringList({""}));
+}
+
+TEST_F(WritingWindow, ANumberOfEmbryosThatIsNoneIsSavedAsZero) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(15), "un");
+    save(form);
+    EXPECT_EQ(stored(2, "NBRE"), QStringList({"0"}));
+}
+
+TEST_F(WritingWindow, ShowsTheSavedExamAndHides) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(15), "1");
+    save(form);
+    EXPECT_TRUE(shown("Form6"));
+    EXPECT_FALSE(shown("Form5"));
+    EXPECT_NE(desk().peek("Form5"), nullptr);
+    EXPECT_EQ(view().LblNumEcho.text(), "1");
+}
+
+TEST_F(WritingWindow, AnOvertypedLowerNumberBringsUpTheHighestExam) {
+    addExam(2, 5, "10/01/2002");
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(15), "1");
+    write(form.sheet.TxtNumEcho, "2");
+    save(form);
+    EXPECT_EQ(view().LblNumEcho.text(), "5");
+    EXPECT_EQ(stored(2, "NUMECHO"), QStringList({"2", "5"}));
+}
+
+TEST_F(WritingWindow, AStoreErrorKeepsTheWindowAndItsEntries) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(15), "1");
+    write(form.sheet.Txt1Ter(26), "Conclusion");
+    write(form.sheet.TxtNumEcho, "deux");
+    save(form);
+    EXPECT_EQ(world_.boxes.reported, QList<int>({13}));
+    EXPECT_TRUE(shown("Form5"));
+    EXPECT_EQ(form.pointer(), forms::Pointer::Normal);
+    EXPECT_EQ(form.sheet.Txt1Ter(26).text(), "Conclusion");
+    EXPECT_TRUE(stored(2, "NUMECHO").isEmpty());
+    write(form.sheet.TxtNumEcho, "2");
+    save(form);
+    EXPECT_EQ(stored(2, "CONCLU1"), QStringList({"Conclusion"}));
+}
+
+TEST_F(WritingWindow, LeavingItHidesTheSteppingUntilAnEndIsAskedFor) {
+    addExam(2, 1, "10/01/2002");
+    viewLast();
+    press(view().Echo1T);
+    press(desk().at<Form5>().CmdQuitter);
+    EXPECT_EQ(desk().peek("Form5"), nullptr);
+    EXPECT_FALSE(view().CmdRec.visible());
+    EXPECT_FALSE(view().CmdAv.visible());
+    EXPECT_TRUE(view().CmdPrem.visible() && view().CmdDer.visible());
+    press(view().CmdPrem);
+    EXPECT_TRUE(view().CmdRec.visible() && view().CmdAv.visible());
+}
+
+TEST_F(WritingWindow, ItsUnloadingBringsTheCursorBackAndHidesTheDossiersSteps) {
+    addExam(2, 1, "10/01/2002");
+    addExam(2, 2, "10/02/2002");
+    viewLast();
+    press(view().CmdPrem);
+    press(view().Echo1T);
+    desk().act([&] { desk().at<Form5>().close(); });
+    EXPECT_EQ(state_.Rs.text("NUMECHO"), "1");
+    EXPECT_FALSE(desk().at<dossier::Form4>().Command3.visible());
+    EXPECT_FALSE(desk().at<dossier::Form4>().Command4.visible());
+    EXPECT_TRUE(view().CmdRec.visible());
+}
+
+TEST_F(WritingWindow, NeedsAnOpenDossier) {
+    desk().show("Form4");
+    press(desk().at<dossier::Form4>().Cmd1Ter);
+    EXPECT_EQ(world_.boxes.said, QStringList({"Veuillez ouvrir un dossier patient au préalable."}));
+    EXPECT_EQ(desk().peek("Form5"), nullptr);
+}
+
+}  // namespace
+}  // namespace exams

@@ -1,0 +1,286 @@
+#include "exams/form6.h"
+
+#include <QFile>
+
+#include "exams/exam_windows.h"
+
+namespace exams {
+namespace {
+
+class ViewingWindow : public ExamWindows {
+protected:
+    void threeExams() {
+        addExam(2, 1, "10/01/2002", {{"TYPECHO", "1"}, {"NBRE", "1"}, {"LCC", "20"}});
+        addExam(2, 2, "11/02/2002", {{"TYPECHO", "1"}, {"NBRE", "1"}, {"LCC", "45"}});
+        addExam(2, 3, "12/03/2002", {{"TYPECHO", "1"}, {"NBRE", "1"}, {"LCC", "65"}});
+    }
+    void settingsFile(const QByteArray& text) {
+        QFile file(world_.folder.filePath("Settings"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+};
+
+TEST_F(ViewingWindow, ShowsEachFieldOfTheRecord) {
+    addExam(2, 4, "12/03/2002",
+            {{"TYPECHO", "1"},   {"MACHINE", "m"},    {"DATECIRC", "dc"}, {"BMI", "b"},      {"AGESTA", "12,3"},
+             {"OPERATEUR", "o"}, {"MODEXAM", "mo"},   {"INDI", "i"},      {"ANNEXES", "a"},  {"NBRS", "1"},
+             {"Dim", "30"},      {"NBRE", "2"},       {"PL", "p"},        {"DDR", "r"},      {"DG", "g"},
+             {"DGUS", "u"},      {"CONDITIONS", "c"}, {"UTERUS", "ut"},   {"DOUGLAS", "do"}, {"SITUATION", "s"},
+             {"ASPECT", "as"},   {"LA", "l"},         {"CONCLU1", "co"},  {"MA", "ma"},      {"MA2", "ma2"},
+             {"MA3", "ma3"},     {"AC", "ac"},        {"AC2", "ac2"},     {"AC3", "ac3"},    {"LCC", "lc"},
+             {"LCC2", "lc2"},    {"LCC3", "lc3"},     {"Bip", "bi"},      {"Bip2", "bi2"},   {"Bip3", "bi3"},
+             {"Fem", "fe"},      {"FEM2", "fe2"},     {"FEM3", "fe3"},    {"NUQUE", "nu"},   {"NUQUE2", "nu2"},
+             {"NUQUE3", "nu3"},  {"OSNEZ", "os"},     {"OSNEZ2", "os2"},  {"OSNEZ3", "os3"}, {"MORPHO", "mp"},
+             {"MORPHO2", "mp2"}, {"MORPHO3", "mp3"}});
+    const Form6& form = viewLast();
+    const std::vector<std::pair<const char*, const char*>> expected{{"LblMachine", "m"},
+                                                                    {"LblDateCirc", "dc"},
+                                                                    {"LblIMC", "b"},
+                                                                    {"LblAgeGesta", "12,3 Sem. A."},
+                                                                    {"LblOperateur", "o"},
+                                                                    {"LblModalites", "mo"},
+                                                                    {"TxtIndic", "i"},
+                                                                    {"TxtAnnexes", "a"},
+                                                                    {"LblNbr", "1"},
+                                                                    {"LblDim", "30"},
+                                                                    {"LblNbrE", "2"},
+                                                                    {"TxtPl", "p"},
+                                                                    {"LblNumEcho", "4"},
+                                                                    {"LblDatExam", "12/03/2002"},
+                                                                    {"LblDatExamb", "12/03/2002"},
+                                                                    {"LblDDR", "r"},
+                                                                    {"LblDG", "g"},
+                                                                    {"LblDGUS", "u"},
+                                                                    {"LblConditions", "c"},
+                                                                    {"TxtUterus", "ut"},
+                                                                    {"TxtDouglas", "do"},
+                                                                    {"LblSituation", "s"},
+                                                                    {"LblAspect", "as"},
+                                                                    {"TxtLA", "l"},
+                                                                    {"TxtConclu1", "co"},
+                                                                    {"LblNom", "DUPONT"},
+                                                                    {"LblPrenom", "Marie"},
+                                                                    {"LblNumInt", "2"}};
+    for (const auto& [control, text] : expected) {
+        EXPECT_EQ(form.find(QString(control))->text(), text) << control;
+    }
+    const std::vector<std::pair<const char*, const char*>> arrays{
+        {"LblMA", "ma"},  {"LblAC", "ac"},    {"LblLCC", "lc"}, {"LblBip", "bi"},
+        {"LblFem", "fe"}, {"LblNuque", "nu"}, {"LblOPN", "os"}, {"TxtMorpho", "mp"}};
+    for (const auto& [control, text] : arrays) {
+        EXPECT_EQ(form.find(QString(control), 0)->text(), text) << control;
+        EXPECT_EQ(form.find(QString(control), 1)->text(), QString(text) + "2") << control;
+        EXPECT_EQ(form.find(QString(control), 2)->text(), QString(text) + "3") << control;
+    }
+}
+
+TEST_F(ViewingWindow, CanBeReadButNotWritten) {
+    threeExams();
+    for (const forms::Control* control : viewLast().controls()) {
+        if (control->kind() == forms::Kind::TextBox) {
+            EXPECT_TRUE(static_cast<const forms::TextBox*>(control)->locked()) << control->label().toStdString();
+        }
+    }
+}
+
+TEST_F(ViewingWindow, FillsWithoutTheWordsBehindTheAge) {
+    addExam(2, 1, "10/01/2002", {{"TYPECHO", "1"}, {"AGESTA", "12,3"}});
+    Form6& form = viewLast();
+    form.AFFICHEVOIR();
+    EXPECT_EQ(form.LblAgeGesta.text(), "12,3");
+}
+
+TEST_F(ViewingWindow, TakesTheMarksOfTheSettingsFile) {
+    addExam(2, 1, "10/01/2002");
+    settingsFile("\"Faux\",\"Vrai\",\"Vrai\",\"Faux\",\"Faux\",\"Vrai\",\"Faux\"\r\n");
+    const Form6& form = viewLast();
+    EXPECT_FALSE(form.CptrD.checked());
+    EXPECT_TRUE(form.CptrM.checked());
+    EXPECT_FALSE(form.Intro.checked());
+}
+
+TEST_F(ViewingWindow, StartsDetailedWithIntroductionWhenThereIsNoFile) {
+    addExam(2, 1, "10/01/2002");
+    const Form6& form = viewLast();
+    EXPECT_TRUE(form.CptrD.checked());
+    EXPECT_FALSE(form.CptrM.checked());
+    EXPECT_TRUE(form.Intro.checked());
+}
+
+TEST_F(ViewingWindow, TheTwoStylesExcludeEachOtherAndTheIntroductionFlips) {
+    addExam(2, 1, "10/01/2002");
+    Form6& form = viewLast();
+    press(form.CptrM);
+    EXPECT_TRUE(form.CptrM.checked() && !form.CptrD.checked());
+    press(form.CptrD);
+    EXPECT_TRUE(form.CptrD.checked() && !form.CptrM.checked());
+    press(form.Intro);
+    EXPECT_FALSE(form.Intro.checked());
+    press(form.Intro);
+    EXPECT_TRUE(form.Intro.checked());
+}
+
+TEST_F(ViewingWindow, ClosingKeepsTheMarksInTheFileAndTheMenuEntryDoesNot) {
+    addExam(2, 1, "10/01/2002");
+    press(viewLast().CptrM);
+    press(view().Quitte);
+    EXPECT_FALSE(QFile::exists(world_.folder.filePath("Settings")));
+    press(viewLast().CptrM);
+    press(view().CmdQuitter);
+    EXPECT_TRUE(viewLast().CptrM.checked());
+}
+
+TEST_F(ViewingWindow, TheNumberOfEmbryosSetsTheButtons) {
+    addExam(2, 1, "10/01/2002", {{"TYPECHO", "1"}, {"NBRE", "1"}});
+    addExam(2, 2, "10/01/2002", {{"TYPECHO", "1"}, {"NBRE", "2"}});
+    addExam(2, 3, "10/01/2002", {{"TYPECHO", "1"}, {"NBRE", "3"}});
+    addExam(2, 4, "10/01/2002", {{"TYPECHO", "1"}, {"NBRE", "0"}});
+    addExam(2, 5, "10/01/2002", {{"TYPECHO", "1"}, {"NBRE", ""}});
+    viewLast();
+    Form6& form = view();
+    press(form.CmdPrem);
+    EXPECT_FALSE(form.Frame5.visible());
+    press(form.CmdAv);
+    EXPECT_TRUE(form.Frame5.visible() && form.CmdJ1.visible() && form.CmdJ2.visible() && !form.CmdJ3.visible());
+    press(form.CmdAv);
+    EXPECT_TRUE(form.Frame5.visible() && form.CmdJ3.visible());
+    press(form.CmdAv);
+    EXPECT_TRUE(form.Frame5.visible());
+    press(form.CmdAv);
+    EXPECT_FALSE(form.Frame5.visible());
+}
+
+TEST_F(ViewingWindow, AButtonBringsAnEmbryoInViewAndSteppingIsOfferedWithTheFirstAlone) {
+    addExam(2, 1, "10/01/2002", {{"TYPECHO", "1"}, {"NBRE", "3"}});
+    Form6& form = viewLast();
+    press(form.CmdJ2);
+    EXPECT_TRUE(form.FrameJ2.visible() && !form.FrameJ1.visible() && !form.FrameJ3.visible());
+    EXPECT_EQ(form.Frame5.back(), 0xFFFFFFU);
+    EXPECT_FALSE(form.Frame12.visible());
+    press(form.CmdJ3);
+    EXPECT_TRUE(form.FrameJ3.visible());
+    EXPECT_EQ(form.Frame5.back(), 0xFFC0C0U);
+    EXPECT_FALSE(form.Frame12.visible());
+    press(form.CmdJ1);
+    EXPECT_TRUE(form.FrameJ1.visible());
+    EXPECT_EQ(form.Frame5.back(), 0xC0FFFFU);
+    EXPECT_TRUE(form.Frame12.visible());
+}
+
+TEST_F(ViewingWindow, ALoneEmbryoIsNeverLeftOutOfSight) {
+    addExam(2, 1, "10/01/2002", {{"TYPECHO", "1"}, {"NBRE", "2"}});
+    addExam(3, 1, "10/01/2002", {{"TYPECHO", "1"}, {"NBRE", "1"}, {"LCC", "55"}});
+    press(viewLast().CmdJ2);
+    press(dossierOf("MARTIN").HlbCptDer);
+    EXPECT_TRUE(view().FrameJ1.visible());
+    EXPECT_FALSE(view().FrameJ2.visible());
+    EXPECT_TRUE(view().Frame12.visible());
+}
+
+TEST_F(ViewingWindow, StepsThroughTheDossierAndStopsAtItsEnds) {
+    threeExams();
+    addExam(3, 9, "10/01/2002");
+    viewLast();
+    Form6& form = view();
+    EXPECT_EQ(form.LblNumEcho.text(), "3");
+    press(form.CmdAv);
+    EXPECT_EQ(form.LblNumEcho.text(), "3");
+    press(form.CmdRec);
+    EXPECT_EQ(form.LblNumEcho.text(), "2");
+    EXPECT_EQ(form.LblLCC(0).text(), "45");
+    press(form.CmdPrem);
+    press(form.CmdRec);
+    EXPECT_EQ(form.LblNumEcho.text(), "1");
+    press(form.CmdDer);
+    EXPECT_EQ(form.LblNumEcho.text(), "3");
+    EXPECT_TRUE(world_.boxes.said.isEmpty());
+}
+
+TEST_F(ViewingWindow, NeverShowsOnePatientsExamUnderAnothersName) {
+    addExam(2, 1, "10/01/2002");
+    addExam(3, 1, "11/01/2002");
+    viewLast("DUPONT");
+    press(dossierOf("MARTIN").HlbCptDer);
+    EXPECT_EQ(view().LblDatExam.text(), "11/01/2002");
+    EXPECT_EQ(view().LblNom.text(), "MARTIN");
+    EXPECT_EQ(view().LblNumInt.text(), "3");
+}
+
+TEST_F(ViewingWindow, ADeletionAsksTwice) {
+    threeExams();
+    viewLast();
+    for (const QList<bool>& answers : {QList<bool>{false}, QList<bool>{true, false}}) {
+        world_.boxes.answers = answers;
+        press(view().CmdSupprime);
+        EXPECT_EQ(stored(2, "NUMECHO").size(), 3);
+        EXPECT_TRUE(shown("Form6"));
+    }
+    EXPECT_EQ(world_.boxes.asked.last(), "ATTENTION cette Echographie va être supprimée. CONTINUER ?");
+    EXPECT_EQ(world_.boxes.asked.first(), "Voulez vous vraiment SUPPRIMER cette Echographie ?");
+}
+
+TEST_F(ViewingWindow, ADeletionLeavesTheDossierWindowOnThePatients) {
+    threeExams();
+    viewLast();
+    press(view().CmdRec);
+    Form5& writing = newExam();
+    writing.sheet.Txt1Ter(26).setText("reste");
+    press(viewLast().CmdRec);
+    world_.boxes.answers = {true, true};
+    press(view().Supprim);
+    EXPECT_EQ(stored(2, "NUMECHO"), QStringList({"1", "3"}));
+    EXPECT_EQ(desk().peek("Form6"), nullptr);
+    EXPECT_EQ(desk().peek("Form5"), nullptr);
+    EXPECT_TRUE(shown("Form4"));
+    EXPECT_FALSE(shown("Form1"));
+    EXPECT_EQ(desk().at<dossier::Form4>().NomLbl.text(), "");
+    EXPECT_EQ(state_.SqlNom, "SELECT*FROM FICHEPATIENT ORDER BY NOM");
+    EXPECT_EQ(state_.Rs.text("Nom"), "DOSSIER MODELE");
+}
+
+TEST_F(ViewingWindow, OfDuplicatesTheFirstInsertedRowIsDeleted) {
+    addExam(2, 1, "10/01/2002", {{"TYPECHO", "1"}, {"CONCLU1", "premier"}});
+    addExam(2, 1, "11/01/2002", {{"TYPECHO", "1"}, {"CONCLU1", "second"}});
+    viewLast();
+    world_.boxes.answers = {true, true};
+    press(view().CmdSupprime);
+    EXPECT_EQ(stored(2, "CONCLU1"), QStringList({"second"}));
+}
+
+TEST_F(ViewingWindow, EachExitUnloadsTheWindowsAndBringsAFreshDossierWindow) {
+    threeExams();
+    const std::vector<std::function<void()>> exits{[this] { press(view().CmdQuitter); },
+                                                   [this] { press(view().Quitte); },
+                                                   [this] { desk().act([this] { view().close(); }); }};
+    for (const auto& leave : exits) {
+        newExam();
+        viewLast();
+        leave();
+        EXPECT_EQ(desk().peek("Form6"), nullptr);
+        EXPECT_EQ(desk().peek("Form5"), nullptr);
+        EXPECT_TRUE(shown("Form4"));
+        EXPECT_FALSE(shown("Form1"));
+        EXPECT_EQ(desk().at<dossier::Form4>().NomLbl.text(), "");
+        EXPECT_TRUE(desk().at<dossier::Form4>().Command3.visible());
+        EXPECT_EQ(state_.Rs.text("Nom"), "DOSSIER MODELE");
+    }
+    EXPECT_TRUE(world_.boxes.reported.isEmpty());
+}
+
+TEST_F(ViewingWindow, OpensANewExamOfEitherFamily) {
+    threeExams();
+    viewLast();
+    press(view().Hlb1T);
+    EXPECT_EQ(desk().at<Form5>().sheet.TxtNumEcho.text(), "4");
+    EXPECT_TRUE(shown("Form6"));
+}
+
+TEST_F(ViewingWindow, OpensTheHelpBesideTheProgram) {
+    threeExams();
+    press(viewLast().Aide);
+    EXPECT_EQ(world_.help.shown, QStringList({world_.folder.path() + "/VERANOX.HLP"}));
+}
+
+}  // namespace
+}  // namespace exams

@@ -1,0 +1,112 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include "dossier/form4.h"
+#include "fakes/world.h"
+#include "practice/practice.h"
+#include "qt/stage.h"
+#include "shell/program.h"
+#include "store/schema.h"
+
+namespace qt {
+namespace {
+
+using forms::Control;
+using forms::Kind;
+
+constexpr QSize kSmallScreen(1366, 768);
+
+/// Rules that hold for every window of the program.
+class AllWindows : public ::testing::Test {
+protected:
+    AllWindows() {
+        practice::makeSample(world_.folder.path());
+        for (const store::FileKind kind : store::kAllFiles) {
+            world_.settings.put(store::settingName(kind), world_.folder.filePath(store::usualName(kind)));
+        }
+        program_.start();
+        program_.desk().act([this] { viewAnExam(); });
+        for (const QString& name : program_.desk().known()) {
+            if (name != u"Form0") {
+                program_.desk().act([&] { program_.desk().show(name); });
+            }
+        }
+    }
+
+    // Some windows come up on an exam alone.
+    void viewAnExam() {
+        auto& dossier = program_.desk().at<dossier::Form4>();
+        program_.state().Rs.findFirst("NUMINT=29");
+        dossier.AFFICHE_FICHE();
+        dossier.Command5.click();
+        dossier.Text1.setText("MARTINEAU");
+        dossier.Text2.setText("CHRISTELLE");
+        dossier.HlbCptDer.click();
+        dossier.Text1.setText("ROSSIGNOL");
+        dossier.Command5.click();
+    }
+
+    template <class Check>
+    void forEachControl(Check check) {
+        for (forms::Form* form : program_.desk().loaded()) {
+            for (const Control* control : form->controls()) {
+                check(*control, stage_.windowOf(*form)->widgetOf(*control),
+                      (form->name() + u'.' + control->label()).toStdString());
+            }
+        }
+    }
+
+    fakes::World world_;
+    shell::Program program_{world_.machine};
+    WindowStage stage_{program_.desk(), [] {}};
+};
+
+TEST_F(AllWindows, AreAllShown) {
+    EXPECT_EQ(world_.boxes.reported, QList<int>());
+    EXPECT_EQ(program_.desk().loaded().size(), static_cast<std::size_t>(program_.desk().known().size() - 1));
+}
+
+TEST_F(AllWindows, ShowEachOfTheirControls) {
+    forEachControl([this](const Control& control, const QWidget* widget, const std::string& name) {
+        const bool menu = control.kind() == Kind::Menu && stage_.windowOf(control.form())->actionOf(control);
+        EXPECT_TRUE(widget || menu) << name;
+    });
+}
+
+TEST_F(AllWindows, FitASmallScreen) {
+    for (forms::Form* form : program_.desk().loaded()) {
+        const QSize least = stage_.windowOf(*form)->minimumSizeHint();
+        EXPECT_LE(least.width(), kSmallScreen.width()) << form->name().toStdString();
+        EXPECT_LE(least.height(), kSmallScreen.height()) << form->name().toStdString();
+    }
+}
+
+TEST_F(AllWindows, NameEachFieldForAScreenReader) {
+    forEachControl([](const Control& control, const QWidget* widget, const std::string& name) {
+        if (control.kind() == Kind::TextBox || control.kind() == Kind::ListBox || control.kind() == Kind::ComboBox) {
+            ASSERT_NE(widget, nullptr) << name;
+            EXPECT_FALSE(widget->accessibleName().isEmpty()) << name;
+        }
+    });
+}
+
+TEST_F(AllWindows, LetTheKeyboardReachEachFieldAndButton) {
+    forEachControl([](const Control& control, const QWidget* widget, const std::string& name) {
+        if (control.kind() == Kind::TextBox || control.kind() == Kind::Button || control.kind() == Kind::ComboBox ||
+            control.kind() == Kind::Option || control.kind() == Kind::Check) {
+            ASSERT_NE(widget, nullptr) << name;
+            EXPECT_TRUE(widget->focusPolicy() & Qt::TabFocus) << name;
+        }
+    });
+}
+
+}  // namespace
+}  // namespace qt

@@ -1,0 +1,120 @@
+#!/usr/bin/env python3
+"""Walks through the program as a person would and keeps a picture of each window, light and dark."""
+
+import pathlib
+import shutil
+import sys
+import tempfile
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests" / "e2e"))
+from port import PROGRAM, Port  # noqa: E402
+
+
+class Tour:
+    def __init__(self, out, palette):
+        self.out = out
+        self.palette = palette
+        self.folder = tempfile.mkdtemp(prefix="veranox-tour-")
+        self.port = Port(self.folder, today="2002-06-14", platform="xcb", environment={"VERANOX_PALETTE": palette})
+
+    def picture(self, form, name):
+        file = self.out / f"{name}-{self.palette}.png"
+        self.port.shot(form=form, file=str(file))
+        print(file)
+
+    def walk(self):
+        self.port.practice(patients=True)
+        self.port.start()
+        self.picture("Form1", "menu")
+        self.about()
+        self.help()
+        self.upkeep()
+        self.responses()
+        self.dossier()
+
+    def about(self):
+        self.port.click("Form1.Command4")
+        self.picture("Form14", "a-propos")
+        self.port.click("Form14.Command1")
+
+    def help(self):
+        shutil.copy(PROGRAM.parent / "VERANOX.HLP", self.folder)
+        self.port.click("Form1.CmdAide")
+        self.picture("VERANOX.HLP", "aide")
+        self.port.close(form="VERANOX.HLP")
+
+    def upkeep(self):
+        self.port.click("Form1.CmdSupervi")
+        self.picture("Form22", "superviseur")
+        self.port.click("Form22.Command3")
+        self.port.click("Form1.CmdSauve")
+        self.picture("Form21", "sauvegardes")
+        self.port.click("Form21.Command1")
+
+    def responses(self):
+        self.port.click("Form1.Command2")
+        self.port.click("Form9.CmdIndications")
+        self.port.dblclick("Form9.List1", row=2)
+        self.picture("Form9", "reponses")
+        self.port.click("Form9.CmdQuitter")
+
+    def dossier(self):
+        self.port.click("Form1.Command1")
+        self.port.type("Form4.Text1", text="martineau")
+        self.port.click("Form4.HlbCptDate")
+        self.port.click("Form4.Command6")
+        self.port.click("Form4.CmdATCD")
+        self.picture("Form4", "dossier")
+        self.sheets()
+        self.exam()
+        self.report()
+
+    def sheets(self):
+        self.port.click("Form4.CmdModifie")
+        self.picture("Form3", "fiche-modifiee")
+        self.port.click("Form3.CmdAnnule")
+        self.port.click("Form4.CmdCreeDossier")
+        self.picture("Form2", "fiche-nouvelle")
+        self.port.click("Form2.CmdAnule")
+
+    def exam(self):
+        self.port.set("Form4.Text1", text="MARTINEAU")
+        self.port.set("Form4.Text2", text="CHRISTELLE")
+        self.port.click("Form4.Cmd1Ter")
+        self.port.set("Form5.Txt1Ter(2)", text="11/03/2002")
+        self.port.type("Form5.Txt1Ter(15)", text="1")
+        self.port.focus("Form5.Txt1Ter(7)")
+        self.picture("Form5", "examen-redaction")
+        self.port.click("Form5.CmdQuitter")
+        self.port.click("Form4.HlbCptDer")
+        self.picture("Form6", "examen")
+        self.port.click("Form6.CmdModifs")
+        self.picture("Form7", "examen-correction")
+        self.port.click("Form7.CmdQuitter")
+
+    def report(self):
+        self.port.printer(file=str(self.out / "compte-rendu.pdf"))
+        self.port.click("Form6.Command1")
+        self.picture("RicheT", "compte-rendu")
+        self.port.click("RicheT.tbToolBar(Imprimer)")
+        self.port.click("RicheT.tbToolBar(Quitter)")
+        self.port.click("Form6.CmdQuitter")
+
+    def end(self):
+        self.port.end()
+        shutil.rmtree(self.folder)
+
+
+def main():
+    out = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else "out").resolve()
+    out.mkdir(parents=True, exist_ok=True)
+    for palette in ["claire", "sombre"]:
+        tour = Tour(out, palette)
+        try:
+            tour.walk()
+        finally:
+            tour.end()
+
+
+if __name__ == "__main__":
+    main()
