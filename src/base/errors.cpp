@@ -28,6 +28,8 @@ QString errorText(ErrorNumber number) {
             return QStringLiteral("Aucune base ou aucune sélection n'est ouverte.");
         case ErrorNumber::InvalidNull:
             return QStringLiteral("Ce champ ne contient aucune valeur.");
+        case ErrorNumber::InvalidPicture:
+            return QStringLiteral("Ce fichier n'est pas une image reconnue, ou il est endommagé.");
         case ErrorNumber::UpdateWithoutEdit:
             return QStringLiteral("Enregistrement demandé sans ajout ni modification en cours.");
         case ErrorNumber::NoCurrentRecord:

@@ -18,6 +18,7 @@ enum class ErrorNumber : int {
     PathNotFound = 76,
     ObjectNotSet = 91,
     InvalidNull = 94,
+    InvalidPicture = 481,
     UpdateWithoutEdit = 3020,
     NoCurrentRecord = 3021,
     DuplicateKey = 3022,

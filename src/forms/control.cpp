@@ -26,6 +26,8 @@ QString kindName(Kind kind) {
             return QStringLiteral("Frame");
         case Kind::Menu:
             return QStringLiteral("Menu");
+        case Kind::ScrollBar:
+            return QStringLiteral("ScrollBar");
         case Kind::Image:
             return QStringLiteral("Image");
         case Kind::RichText:

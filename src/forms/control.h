@@ -10,7 +10,21 @@ namespace forms {
 
 class Form;
 
-enum class Kind { Label, TextBox, ListBox, ComboBox, Button, Option, Check, Frame, Menu, Image, Calendar, RichText };
+enum class Kind {
+    Label,
+    TextBox,
+    ListBox,
+    ComboBox,
+    Button,
+    Option,
+    Check,
+    Frame,
+    Menu,
+    ScrollBar,
+    Image,
+    Calendar,
+    RichText
+};
 
 /// The name of a kind: "Label", "TextBox" and so on.
 QString kindName(Kind kind);
@@ -29,7 +43,9 @@ enum class Aspect {
     Focus,
     Colors,
     Place,
-    LineWidth
+    LineWidth,
+    Value,
+    Picture
 };
 
 /// Where a control stands on its window, in twips (1440 an inch) from the inner top left corner.

@@ -107,6 +107,23 @@ void ComboBox::clear() {
     tell(Aspect::Items);
 }
 
+void ScrollBar::setValue(int value) {
+    const int wanted = std::clamp(value, range_.min, range_.max);
+    if (value_ == wanted) {
+        return;
+    }
+    value_ = wanted;
+    tell(Aspect::Value);
+    if (onChange) {
+        onChange();
+    }
+}
+
+void Image::setPicture(const QImage& picture) {
+    picture_ = picture;
+    tell(Aspect::Picture);
+}
+
 void Calendar::setDate(QDate date) {
     if (date_ == date) {
         return;

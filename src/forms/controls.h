@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDate>
+#include <QImage>
 #include <QStringList>
 #include <cstdint>
 #include <memory>
@@ -242,10 +243,43 @@ private:
     std::vector<std::unique_ptr<ToolButton>> buttons_;
 };
 
-/// A place for a picture.
+/// A bar that stands on a whole number.
+class ScrollBar final : public Control {
+public:
+    struct Range {
+        int min = 0;
+        int max = 100;
+        /// What a page key or a click beside the slider adds.
+        int largeStep = 1;
+    };
+
+    ScrollBar(Form& form, QString name, Range range, int value, int index = -1)
+        : Control(form, Kind::ScrollBar, std::move(name), index), range_(range), value_(value) {}
+
+    const Range& range() const { return range_; }
+    int value() const { return value_; }
+    /// Puts it on a number, or on the end of its range that is nearest. A number that differs fires `onChange` at once.
+    void setValue(int value);
+
+    std::function<void()> onChange;
+
+private:
+    Range range_;
+    int value_;
+};
+
+/// A place for a picture, empty at first.
 class Image final : public Control {
 public:
     explicit Image(Form& form, QString name, int index = -1) : Control(form, Kind::Image, std::move(name), index) {}
+
+    const QImage& picture() const { return picture_; }
+    bool empty() const { return picture_.isNull(); }
+    void setPicture(const QImage& picture);
+    void clear() { setPicture({}); }
+
+private:
+    QImage picture_;
 };
 
 /// A month of days, of which a person chooses one.

@@ -8,6 +8,7 @@
 #include <QListView>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QSlider>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextEdit>
@@ -16,6 +17,7 @@
 #include "forms/rich_text.h"
 #include "qt/calendar_view.h"
 #include "qt/page_view.h"
+#include "qt/picture_view.h"
 
 namespace port {
 namespace {
@@ -215,6 +217,11 @@ void click(const Target& target, const QJsonObject& request) {
         return;
     }
     QTest::mouseClick(mouseTaker(target), Qt::LeftButton, {}, clickPoint(target));
+    if (const QPointer<qt::PictureView> picture = dynamic_cast<qt::PictureView*>(target.widget)) {
+        while (picture && picture->waiting()) {
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+    }
 }
 
 void doubleClick(const Target& target, const QJsonObject& request) {
@@ -242,6 +249,15 @@ void pick(const Target& target, const QString& date) {
     }
     const QPoint at = calendar->placeOf(day);
     QTest::mouseClick(calendar->days(), Qt::LeftButton, {}, at);
+}
+
+void scroll(const Target& target, int value) {
+    reach(target);
+    auto* slider = qobject_cast<QSlider*>(target.widget);
+    if (!slider) {
+        throw PortError{QStringLiteral("%1 is no scroll bar").arg(target.control->label())};
+    }
+    slider->setValue(value);
 }
 
 void choose(const Target& target, const QJsonObject& request) {
@@ -295,6 +311,17 @@ QJsonObject look(const Target& target) {
     if (const auto* rich = dynamic_cast<const forms::RichText*>(&control)) {
         seen[QStringLiteral("selection")] =
             QJsonObject{{QStringLiteral("start"), rich->SelStart()}, {QStringLiteral("length"), rich->SelLength()}};
+    }
+    if (const auto* bar = dynamic_cast<const forms::ScrollBar*>(&control)) {
+        seen[QStringLiteral("value")] = bar->value();
+        seen[QStringLiteral("min")] = bar->range().min;
+        seen[QStringLiteral("max")] = bar->range().max;
+    }
+    if (const auto* image = dynamic_cast<const forms::Image*>(&control)) {
+        seen[QStringLiteral("picture")] =
+            image->empty() ? QJsonValue(QJsonValue::Null)
+                           : QJsonValue(QJsonObject{{QStringLiteral("width"), image->picture().width()},
+                                                    {QStringLiteral("height"), image->picture().height()}});
     }
     if (const auto place = control.place()) {
         seen[QStringLiteral("left")] = place->left;

@@ -34,6 +34,8 @@ void click(const Target& target, const QJsonObject& request);
 void doubleClick(const Target& target, const QJsonObject& request);
 void rightClick(const Target& target);
 void pick(const Target& target, const QString& date);
+/// Moves a scroll bar.
+void scroll(const Target& target, int value);
 void choose(const Target& target, const QJsonObject& request);
 
 }  // namespace hands

@@ -13,6 +13,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSlider>
 #include <QTextEdit>
 #include <QToolButton>
 #include <algorithm>
@@ -24,6 +25,7 @@
 #include "qt/list_model.h"
 #include "qt/list_view.h"
 #include "qt/page_view.h"
+#include "qt/picture_view.h"
 #include "qt/section.h"
 
 namespace qt {
@@ -398,6 +400,37 @@ QToolButton* Binder::tool(forms::ToolButton& control) {
         }
     });
     return button;
+}
+
+QSlider* Binder::slider(forms::ScrollBar& control, const QString& caption) {
+    auto* slider = new QuietSlider;
+    slider->setAccessibleName(caption);
+    slider->setRange(control.range().min, control.range().max);
+    slider->setPageStep(control.range().largeStep);
+    const auto sync = [&control, slider](Aspect, int) { slider->setValue(control.value()); };
+    window_.bind(control, slider, sync);
+    sync(Aspect::Value, -1);
+    QObject::connect(slider, &QSlider::valueChanged, &window_, [this_ = &window_, &control](int value) {
+        if (this_->alive() && control.value() != value) {
+            this_->act([&control, value] { control.setValue(value); });
+        }
+    });
+    return slider;
+}
+
+PictureView* Binder::picture(forms::Image& control, const QString& caption) {
+    FormWindow* window = &window_;
+    auto* view =
+        new PictureView({.clicks = [&control] { return static_cast<bool>(control.onClick); },
+                         .doubleClicks = [&control] { return static_cast<bool>(control.onDoubleClick); },
+                         .click = [window, &control] { window->act([&control] { control.click(); }); },
+                         .doubleClick = [window, &control] { window->act([&control] { control.doubleClick(); }); }});
+    view->setAccessibleName(caption);
+    const auto sync = [&control, view](Aspect, int) { view->setPicture(control.picture()); };
+    window_.bind(control, view, sync);
+    sync(Aspect::Picture, -1);
+    window_.atRetirement([view] { view->release(); });
+    return view;
 }
 
 PageView* Binder::page(forms::RichText& control, const QString& caption) {

@@ -16,6 +16,7 @@ class QMenuBar;
 class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
+class QSlider;
 class QToolButton;
 class QVBoxLayout;
 
@@ -23,6 +24,7 @@ namespace qt {
 
 class PageView;
 class CalendarView;
+class PictureView;
 class Section;
 
 /// Turns the controls of a form into real widgets of its window. What a layout makes of them beyond that (place, size,
@@ -44,6 +46,10 @@ public:
     QRadioButton* option(forms::Option& control);
     QCheckBox* check(forms::Check& control);
     QToolButton* tool(forms::ToolButton& control);
+    /// A scroll bar, as a slider; `caption` is what a screen reader calls it.
+    QSlider* slider(forms::ScrollBar& control, const QString& caption);
+    /// A picture. It takes the focus if its control listens to clicks.
+    PictureView* picture(forms::Image& control, const QString& caption);
     /// A rich text, seen as a page.
     PageView* page(forms::RichText& control, const QString& caption);
     /// A frame as a section: its caption as a title above what it holds.

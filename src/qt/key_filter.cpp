@@ -104,4 +104,8 @@ void QuietComboBox::wheelEvent(QWheelEvent* event) {
     event->ignore();
 }
 
+void QuietSlider::wheelEvent(QWheelEvent* event) {
+    event->ignore();
+}
+
 }  // namespace qt

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QObject>
+#include <QSlider>
 #include <functional>
 
 #include "forms/control.h"
@@ -58,6 +59,15 @@ void walkOnAtEnter(QWidget* field);
 class QuietComboBox final : public QComboBox {
 public:
     QuietComboBox() { setFocusPolicy(Qt::StrongFocus); }
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+};
+
+/// A slider that the mouse wheel passes over without moving it.
+class QuietSlider final : public QSlider {
+public:
+    QuietSlider() : QSlider(Qt::Horizontal) { setFocusPolicy(Qt::StrongFocus); }
 
 protected:
     void wheelEvent(QWheelEvent* event) override;

@@ -150,6 +150,27 @@ TEST_F(Controls, ASelectionStaysInsideTheText) {
     EXPECT_EQ(form_.Text1.selectionLength(), 0);
 }
 
+TEST_F(Controls, AScrollBarStaysInsideItsRangeAndTellsAChangeOnce) {
+    QList<int> told;
+    form_.Scroll1.onChange = [&] { told << form_.Scroll1.value(); };
+    form_.Scroll1.setValue(90);
+    form_.Scroll1.setValue(500);
+    form_.Scroll1.setValue(100);
+    form_.Scroll1.setValue(-3);
+    EXPECT_EQ(told, QList<int>({100, 1}));
+}
+
+TEST_F(Controls, APlaceForAPictureIsEmptyAtFirstAndWhenCleared) {
+    EXPECT_TRUE(form_.Image1.empty());
+    int told = 0;
+    const Subscription view = form_.Image1.observe([&](Aspect aspect, int) { told += aspect == Aspect::Picture; });
+    form_.Image1.setPicture(QImage(4, 3, QImage::Format_RGB32));
+    EXPECT_EQ(form_.Image1.picture().size(), QSize(4, 3));
+    form_.Image1.clear();
+    EXPECT_TRUE(form_.Image1.empty());
+    EXPECT_EQ(told, 2);
+}
+
 TEST(KeyPress, KeepsReplacesOrSwallowsItsCharacter) {
     KeyPress key(u'a');
     EXPECT_EQ(key.character(), u'a');

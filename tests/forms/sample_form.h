@@ -26,6 +26,8 @@ public:
     Option Option3{*this, "Option3"};
     ListBox List1{*this, "List1"};
     Calendar Calendar1{*this, "Calendar1"};
+    ScrollBar Scroll1{*this, "Scroll1", {.min = 1, .max = 100, .largeStep = 10}, 90};
+    Image Image1{*this, "Image1"};
     Array<TextBox> Texts{*this, "Texts", 0, 3};
     Array<Frame> Lone{*this, "Lone", 3, 3};
 
