@@ -1,6 +1,6 @@
 #include "exams/first_trimester_reports.h"
 
-#include "responses/introduction.h"
+#include "exams/report_head.h"
 
 namespace exams {
 namespace {
@@ -19,10 +19,8 @@ reports::Embryo embryoOnShow(const Form6& view, int which) {
 }  // namespace
 
 reports::FirstTrimesterExam examOnShow(const Form6& view, const ExamLife& life) {
-    const dossier::Form4& head = life.dossierWindow();
-    return {.letterhead = {head.TxtEta.text(), head.TxtNom.text(), head.TxtAdress.text(), head.TxtVille.text(),
-                           head.TxtTel.text()},
-            .patient = {head.LblCivilite.text(), head.PrenomLbl.text(), head.NomLbl.text()},
+    return {.letterhead = letterheadOf(life),
+            .patient = patientOf(life),
             .device = {view.LblMachine.text(), view.LblDateCirc.text()},
             .LblIMC = view.LblIMC.text(),
             .LblDatExam = view.LblDatExam.text(),
@@ -45,14 +43,6 @@ reports::FirstTrimesterExam examOnShow(const Form6& view, const ExamLife& life) 
             .TxtLA = view.TxtLA.text(),
             .TxtConclu1 = view.TxtConclu1.text(),
             .embryos = {embryoOnShow(view, 0), embryoOnShow(view, 1), embryoOnShow(view, 2)}};
-}
-
-QString introductionOf(const ExamLife& life) {
-    try {
-        return responses::Introduction(life.around().programFolder).read();
-    } catch (const base::RuntimeError&) {
-        return {};
-    }
 }
 
 }  // namespace exams

@@ -9,7 +9,4 @@ namespace exams {
 /// The exam that the viewing window shows, as a report tells it, with the head of the dossier window.
 reports::FirstTrimesterExam examOnShow(const Form6& view, const ExamLife& life);
 
-/// What the introduction file says; a file that can't be read counts as missing.
-QString introductionOf(const ExamLife& life);
-
 }  // namespace exams

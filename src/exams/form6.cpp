@@ -5,6 +5,7 @@
 #include "base/numbers.h"
 #include "exams/first_trimester_reports.h"
 #include "exams/form5.h"
+#include "exams/report_head.h"
 #include "exams/settings_file.h"
 #include "reports/riche_t.h"
 

@@ -2,6 +2,8 @@
 
 #include "exams/exam_record.h"
 #include "gyneco/form17.h"
+#include "gyneco/gynaecology_reports.h"
+#include "reports/riche_t.h"
 
 namespace gyneco {
 
@@ -51,8 +53,8 @@ void Form18::wireMenus() {
     Quitte.onClick = [this] { unload(); };
     EchoPelv.onClick = [this] { turnToPelvic(); };
     MonOv.onClick = [this] { turnToMonitoring(); };
-    EchoP.onClick = [this] { desk().show(QStringLiteral("RicheT")); };
-    Monito.onClick = [this] { desk().show(QStringLiteral("RicheT")); };
+    EchoP.onClick = [this] { CptRenduGyneco(); };
+    Monito.onClick = [this] { CptRenduOvulation(); };
     Aide.onClick = [this] {
         const ports::Surroundings& around = exams_.life().around();
         around.help.showContents(around.programFolder + QStringLiteral("/VERANOX.HLP"));
@@ -70,8 +72,8 @@ void Form18::wireButtons() {
         Command2.hide();
     };
     Command3.onClick = [this] { EchoPelv.click(); };
-    CmdCptGyn.onClick = [this] { EchoP.click(); };
-    CmdCptStim.onClick = [this] { Monito.click(); };
+    CmdCptGyn.onClick = [this] { CptRenduGyneco(); };
+    CmdCptStim.onClick = [this] { CptRenduOvulation(); };
     Command1.onClick = [this] { showPhotos(); };
     CmdModifs.onClick = [this] { Modif(); };
     CmdSupprime.onClick = [this] { Supprim(); };
@@ -116,6 +118,16 @@ void Form18::showPhotos() {
                            {{QStringLiteral("TxtRechNom"), exams_.life().dossierWindow().NomLbl.text()},
                             {QStringLiteral("TxtRechDate"), TxtDate.text()},
                             {QStringLiteral("TxtRechNumEcho"), TxtNumEcho.text()}});
+}
+
+void Form18::CptRenduGyneco() {
+    reports::RicheT& editor = reports::openEditor(desk(), reports::kPelvicTitle);
+    type(reports::CptRenduGyneco(examOnShow(*this, exams_.life())), editor.RichTextBox1);
+}
+
+void Form18::CptRenduOvulation() {
+    reports::RicheT& editor = reports::openEditor(desk(), reports::kOvulationTitle);
+    type(reports::CptRenduOvulation(examOnShow(*this, exams_.life())), editor.RichTextBox1);
 }
 
 void Form18::Modif() {

@@ -72,6 +72,9 @@ public:
     forms::Button HlbGyn{*this, "HlbGyn", "Echo &Gynéco"};
     forms::Button CmdQuitter{*this, "CmdQuitter", "&Quitter"};
 
+    /// Types the report of the pelvic exam, or that of the monitoring, of the exam on show into the editor.
+    void CptRenduGyneco();
+    void CptRenduOvulation();
     /// Opens the correction window on the exam in view.
     void Modif();
     /// Deletes the exam in view.

@@ -4,9 +4,7 @@ namespace reports {
 namespace {
 
 const QString kTitle = QStringLiteral("ECHOGRAPHIE du 1° Ter");
-constexpr int kTitleGap = 3;
-constexpr int kPatientIndent = 15;
-constexpr int kPatientGap = 2;
+constexpr int kSectionIndent = 10;
 
 QString measure(const QString& caption, const QString& value, const QString& unit = {}) {
     return blanks(15) + caption + value + unit + kLineEnd;
@@ -53,12 +51,7 @@ std::optional<QString> embryonText(const FirstTrimesterExam& exam, int count) {
 }
 
 void addHeader(Writer& writer, const FirstTrimesterExam& exam, const std::optional<QString>& introduction) {
-    addLetterhead(writer, exam.letterhead);
-    addTitle(writer, kTitle, exam.device, kTitleGap);
-    if (introduction) {
-        addIntroduction(writer, *introduction);
-    }
-    addPatient(writer, exam.patient, kPatientIndent, kPatientGap);
+    addObstetricHeader(writer, {exam.letterhead, kTitle, exam.device, introduction, exam.patient});
 }
 
 void addDates(Writer& writer, const FirstTrimesterExam& exam) {
@@ -66,11 +59,6 @@ void addDates(Writer& writer, const FirstTrimesterExam& exam) {
     writer.text(QStringLiteral("Date de l'examen : ") + exam.LblDatExam + kLineEnd);
     writer.text(QStringLiteral("Date des dernières règles : ") + exam.LblDDR + kLineEnd);
     writer.text(QStringLiteral("Début présumé de la grossesse : ") + exam.LblDG + kLineEnd);
-}
-
-/// A bold heading, and ten blanks before the text that follows it.
-void addIndented(Writer& writer, const QString& heading, const QString& text) {
-    writer.heading(heading + kLineEnd + blanks(10)).text(text + lineEnds(2));
 }
 
 void addConclusion(Writer& writer, const FirstTrimesterExam& exam) {
@@ -132,8 +120,8 @@ Report CptRendu1T(const FirstTrimesterExam& exam, Detail detail, const std::opti
     } catch (const base::RuntimeError& error) {
         return writer.fail(error.number());
     }
-    addIndented(writer, QStringLiteral("LIQUIDE AMNIOTIQUE"), exam.TxtLA);
-    addIndented(writer, QStringLiteral("TROPHOBLASTE ou PLACENTA"), exam.TxtPl);
+    addIndented(writer, QStringLiteral("LIQUIDE AMNIOTIQUE"), kSectionIndent, exam.TxtLA + lineEnds(2));
+    addIndented(writer, QStringLiteral("TROPHOBLASTE ou PLACENTA"), kSectionIndent, exam.TxtPl + lineEnds(2));
     addConclusion(writer, exam);
     addSignature(writer, exam.LblOperateur, exam.LblDatExam);
     return writer.finish();

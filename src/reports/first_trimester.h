@@ -48,9 +48,6 @@ struct FirstTrimesterExam {
     std::array<Embryo, 3> embryos;
 };
 
-/// In a minimum report one fixed sentence stands for the morphology of each embryo.
-enum class Detail { Full, Minimum };
-
 /// The titles of the editor while it shows these reports.
 inline const QString kFirstTrimesterTitle = QStringLiteral("Impression Echo 1er Trimestre");
 inline const QString kDatingTitle = QStringLiteral("Impression Echo de datation");

@@ -35,6 +35,22 @@ void addPatient(Writer& writer, const Patient& patient, int indent, int gap) {
     writer.size(12).bold(false);
 }
 
+void addObstetricHeader(Writer& writer, const ObstetricHeader& header) {
+    constexpr int kTitleGap = 3;
+    constexpr int kPatientIndent = 15;
+    constexpr int kPatientGap = 2;
+    addLetterhead(writer, header.letterhead);
+    addTitle(writer, header.title, header.device, kTitleGap);
+    if (header.introduction) {
+        addIntroduction(writer, *header.introduction);
+    }
+    addPatient(writer, header.patient, kPatientIndent, kPatientGap);
+}
+
+void addIndented(Writer& writer, const QString& heading, int indent, const QString& text) {
+    writer.heading(heading + kLineEnd + blanks(indent)).text(text);
+}
+
 void addExam(Writer& writer, const QString& indication, const QString& modalities, const QString& conditions) {
     writer.heading(QStringLiteral("EXAMEN") + kLineEnd);
     writer.item(QStringLiteral("Indication : ") + indication);

@@ -26,8 +26,19 @@ struct Device {
     QString LblDateCirc;
 };
 
-/// What a minimum report says of the morphology of every embryo or fetus.
+/// In a minimum report one fixed sentence stands for the morphology of each embryo or fetus.
+enum class Detail { Full, Minimum };
 extern const QString kExaminedSentence;
+
+/// What stands above an obstetric report.
+struct ObstetricHeader {
+    const Letterhead& letterhead;
+    const QString& title;
+    const Device& device;
+    /// Nothing where the report goes without.
+    const std::optional<QString>& introduction;
+    const Patient& patient;
+};
 
 // The sections that several reports share.
 
@@ -40,6 +51,10 @@ void addIntroduction(Writer& writer, const QString& introduction);
 /// The patient in bold, left aligned, behind `indent` blanks, with `gap` line ends behind. From here on the text is
 /// normal, of 12 points.
 void addPatient(Writer& writer, const Patient& patient, int indent, int gap);
+/// All of that, in its order.
+void addObstetricHeader(Writer& writer, const ObstetricHeader& header);
+/// A bold heading with a line end and `indent` blanks behind, then the text in normal weight.
+void addIndented(Writer& writer, const QString& heading, int indent, const QString& text);
 /// "EXAMEN": what it was done for, and how.
 void addExam(Writer& writer, const QString& indication, const QString& modalities, const QString& conditions);
 /// "PELVIS".

@@ -202,11 +202,84 @@ TEST_F(GynaecologyView, ThePageStaysInViewFromExamToExam) {
 TEST_F(GynaecologyView, EachReportHasItsButtonAndItsMenuEntry) {
     addExam(2, 1, "10/01/2002");
     Form18& form = viewLast();
-    press(form.CmdCptGyn);
-    press(form.CmdCptStim);
+    const auto title = [&](auto& control) {
+        press(control);
+        const QString found = desk().at<reports::RicheT>().title();
+        desk().unload("RicheT");
+        return found;
+    };
+    EXPECT_EQ(title(form.CmdCptGyn), "Impression Echo Pelvienne");
+    EXPECT_EQ(title(form.EchoP), "Impression Echo Pelvienne");
+    EXPECT_EQ(title(form.CmdCptStim), "Impression Monitorage Ovulation");
+    EXPECT_EQ(title(form.Monito), "Impression Monitorage Ovulation");
+}
+
+TEST_F(GynaecologyView, ThePelvicReportTellsTheExamOnShow) {
+    for (const auto& [rubric, text] : {std::pair{19, "Clinique"}, {20, "Docteur"}, {21, "Rue"}, {22, "Ville"}}) {
+        store(rubric, text);
+    }
+    addExam(2, 3, "11/02/2002", namedFields());
+    press(viewLast().CmdCptGyn);
+    EXPECT_TRUE(shown("RicheT"));
+    EXPECT_TRUE(shown("Form18"));
+    const QString text = desk().at<reports::RicheT>().RichTextBox1.text();
+    EXPECT_TRUE(text.startsWith("Clinique\r\nDocteur\r\nRue\r\nVille\r\n\r\n\r\nECHOGRAPHIE PELVIENNE\r\n"));
+    const QStringList expected{"Appareil: MACHINE",
+                               "1ère mise en service le DATECIRC",
+                               "Marie DUPONT",
+                               "Date de l'examen : 11/02/2002",
+                               "          Indication : INDI",
+                               "          Modalités : MODEXAM",
+                               "          Conditions : CONDITIONS",
+                               "          Situation : SITUATION",
+                               "          Longueur : LONGUEUR mm.",
+                               "          Largeur : LARG mm.",
+                               "          Epaisseur : EPAIS mm.",
+                               "          Echostructure : STRUCTURE",
+                               "          Cavité : CAVITE",
+                               "          Endomètre : ENDO",
+                               "          Epaisseur de l'endomètre : EENDO mm.",
+                               "          Dispositif intra utérin : DIU",
+                               "          Masse : MASSE",
+                               "          Ovaire Droit : OVD",
+                               "          Ovaire Gauche : OVG",
+                               "          Trompe Droite : TD",
+                               "          Trompe Gauche : TG",
+                               "CUL DE SAC DE DOUGLAS :\r\n          DOUGLAS",
+                               "          SITUA\r\n          DIMENSIONS\r\n          STRUCT\r\n          NAT\r\n"
+                               "          ORIGINE",
+                               "CONCLUSION\r\n          CONCLU"};
+    qsizetype from = 0;
+    for (const QString& line : expected) {
+        const qsizetype found = text.indexOf(line + "\r\n", from);
+        EXPECT_GE(found, from) << line.toStdString();
+        from = found;
+    }
+    EXPECT_TRUE(text.endsWith("OPERATEUR le 11/02/2002"));
+}
+
+TEST_F(GynaecologyView, TheMonitoringReportTellsTheExamOnShow) {
+    addExam(2, 3, "11/02/2002", namedFields());
+    press(viewLast().CmdCptStim);
+    EXPECT_TRUE(desk().at<reports::RicheT>().RichTextBox1.text().endsWith(
+        "Date de l'examen : 11/02/2002\r\nJour de la stimulation : JJSTIM.\r\n\r\n\r\n"
+        "          OVAIRE DROIT :\r\n                    Dimensions : DIMOVD\r\n"
+        "                    Nombre de follicules : NBRFOLD\r\n"
+        "                    Taille des follicules : DIMFOLD mm.\r\n\r\n"
+        "          OVAIRE GAUCHE :\r\n                    Dimensions : DIMOVG\r\n"
+        "                    Nombre de follicules : NBRFOLG\r\n"
+        "                    Taille des follicules : DIMFOLG mm.\r\n\r\n"
+        "          ENDOMETRE :\r\n                    Epaisseur : ENDOMETRE mm.\r\n\r\n\r\n\r\n"
+        "OPERATEUR le 11/02/2002"));
+}
+
+TEST_F(GynaecologyView, AReportOfTheOtherPageIsOfferedByTheMenuWhateverIsInView) {
+    addExam(2, 1, "10/01/2002", namedFields());
+    Form18& form = viewLast();
+    press(form.Command2);
     press(form.EchoP);
-    press(form.Monito);
-    EXPECT_EQ(unknown_, QStringList({"RicheT", "RicheT", "RicheT", "RicheT"}));
+    EXPECT_TRUE(desk().at<reports::RicheT>().RichTextBox1.text().contains("ECHOGRAPHIE PELVIENNE"));
+    expectMonitoring(form);
 }
 
 TEST_F(GynaecologyView, ANewExamIsOpenedFromItToo) {

@@ -7,6 +7,7 @@
 #include "gyneco/form16.h"
 #include "gyneco/form17.h"
 #include "gyneco/form18.h"
+#include "reports/riche_t.h"
 
 namespace gyneco {
 
@@ -26,6 +27,7 @@ protected:
         windows.add("Form16", [&] { return std::make_unique<Form16>(exams_); });
         windows.add("Form17", [&] { return std::make_unique<Form17>(exams_); });
         windows.add("Form18", [&] { return std::make_unique<Form18>(exams_); });
+        windows.add("RicheT", [&] { return std::make_unique<reports::RicheT>(world_.around); });
         windows.setUnknown([this](const QString& name) { unknown_ << name; });
     }
 

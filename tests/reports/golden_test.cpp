@@ -87,5 +87,83 @@ TEST(GoldenReport, OfAnEmptyDatingKeepsEveryLine) {
     compareWithGolden("datation-vide", CptRenduDat({}));
 }
 
+TEST(GoldenReport, OfALoneFetusWithAllMeasures) {
+    compareWithGolden("foetus-toutes-mesures", CptRendu2T(laterExam("1"), kFull, kIntroduction));
+}
+
+TEST(GoldenReport, OfALoneFetusWithSomeMeasures) {
+    LaterExam exam = laterExam("1");
+    for (QString Fetus::*measure : {&Fetus::TxtBip, &Fetus::TxtDio, &Fetus::TxtDat, &Fetus::TxtTibia}) {
+        exam.fetuses[0].*measure = QString();
+    }
+    exam.percentiles.LblCCer = QString();
+    exam.TxtUtD = QString();
+    exam.fetuses[0].TxtArtC = QString();
+    compareWithGolden("foetus-quelques-mesures", CptRendu2T(exam, kFull, std::nullopt));
+}
+
+TEST(GoldenReport, OfALoneFetusWithoutMeasures) {
+    LaterExam exam = laterExam("1");
+    exam.fetuses[0] = {};
+    exam.TxtUtD = exam.TxtUtG = QString();
+    compareWithGolden("foetus-sans-mesure", CptRendu2T(exam, kFull, std::nullopt));
+}
+
+TEST(GoldenReport, OfALoneFetusMinimum) {
+    compareWithGolden("foetus-minimum", CptRendu2T(laterExam("1"), kMinimum, std::nullopt));
+}
+
+TEST(GoldenReport, OfTwinFetusesDetailed) {
+    LaterExam exam = laterExam("2");
+    exam.fetuses[1].TxtDio = QString();
+    compareWithGolden("foetus-jumeaux-detaille", CptRendu2T(exam, kFull, std::nullopt));
+}
+
+TEST(GoldenReport, OfTwinFetusesMinimum) {
+    compareWithGolden("foetus-jumeaux-minimum", CptRendu2T(laterExam("2"), kMinimum, kIntroduction));
+}
+
+TEST(GoldenReport, OfTripletFetusesDetailed) {
+    compareWithGolden("foetus-triples-detaille", CptRendu2T(laterExam("3"), kFull, std::nullopt));
+}
+
+TEST(GoldenReport, OfTripletFetusesMinimum) {
+    compareWithGolden("foetus-triples-minimum", CptRendu2T(laterExam("3"), kMinimum, std::nullopt));
+}
+
+TEST(GoldenReport, OfACountOfNoFetusHasNoTextOnThem) {
+    compareWithGolden("foetus-aucun", CptRendu2T(laterExam("0"), kFull, std::nullopt));
+}
+
+TEST(GoldenReport, OfACountOfFourFetusesHasNoTextOnThem) {
+    compareWithGolden("foetus-quatre", CptRendu2T(laterExam("4"), kFull, std::nullopt));
+}
+
+TEST(GoldenReport, WithoutACountOfFetusesStopsBehindItsHeading) {
+    compareWithGolden("foetus-nombre-illisible", CptRendu2T(laterExam(""), kFull, std::nullopt));
+}
+
+TEST(GoldenReport, OfAPelvicExam) {
+    compareWithGolden("pelvis", CptRenduGyneco(gynaecologyExam()));
+}
+
+TEST(GoldenReport, OfAPelvicExamWithoutMass) {
+    GynaecologyExam exam = gynaecologyExam();
+    std::fill_n(exam.TxtGyneco.begin() + 16, 5, QString());
+    compareWithGolden("pelvis-sans-masse", CptRenduGyneco(exam));
+}
+
+TEST(GoldenReport, OfAnEmptyPelvicExamKeepsEveryLine) {
+    compareWithGolden("pelvis-vide", CptRenduGyneco({}));
+}
+
+TEST(GoldenReport, OfAMonitoringOfOvulation) {
+    compareWithGolden("ovulation", CptRenduOvulation(gynaecologyExam()));
+}
+
+TEST(GoldenReport, OfAnEmptyMonitoringKeepsEveryLine) {
+    compareWithGolden("ovulation-vide", CptRenduOvulation({}));
+}
+
 }  // namespace
 }  // namespace reports
