@@ -32,4 +32,11 @@ void readRecord(const forms::Form& form, const QString& array, std::span<const r
     }
 }
 
+void showFields(const forms::Form& form, std::span<const ShownField> fields, const store::Recordset& record) {
+    for (const ShownField& shown : fields) {
+        auto* control = static_cast<forms::TextControl*>(form.find(shown.control, shown.index));
+        control->setText(record.text(shown.field.toString()));
+    }
+}
+
 }  // namespace exams

@@ -20,4 +20,14 @@ void writeRecord(const forms::Form& form, const QString& array, std::span<const 
 void readRecord(const forms::Form& form, const QString& array, std::span<const responses::ExamField> rows,
                 const store::Recordset& record);
 
+/// A field of a record and the control of a viewing window that shows it; `index` is -1 outside an array.
+struct ShownField {
+    QStringView control;
+    int index;
+    QStringView field;
+};
+
+/// Writes each field into its control, which the window has, a null as nothing.
+void showFields(const forms::Form& form, std::span<const ShownField> fields, const store::Recordset& record);
+
 }  // namespace exams

@@ -13,7 +13,8 @@ void digitsOnly(forms::KeyPress& key) {
 }
 
 FirstTrimesterSheet::FirstTrimesterSheet(forms::Form& form, ObstetricExams& exams)
-    : LblNom(form, "LblNom"),
+    : FetusPanels(form, QStringLiteral("Embryon"), 2),
+      LblNom(form, "LblNom"),
       LblPrenom(form, "LblPrenom"),
       LblNumInt(form, "LblNumInt"),
       TxtNumEcho(form, "TxtNumEcho"),
@@ -25,13 +26,6 @@ FirstTrimesterSheet::FirstTrimesterSheet(forms::Form& form, ObstetricExams& exam
       TxtPds(form, "TxtPds"),
       TxtTaille(form, "TxtTaille"),
       Txt1Ter(form, "Txt1Ter", 0, kLastFirstTrimesterField),
-      Frame5(form, "Frame5", "G Multiple", 3),
-      CmdJ1(form, "CmdJ1", "J1"),
-      CmdJ2(form, "CmdJ2", "J2"),
-      CmdJ3(form, "CmdJ3", "J3"),
-      FrameJ1(form, "FrameJ1", "Embryon", 0),
-      FrameJ2(form, "FrameJ2", "Embryon N°2", 1),
-      FrameJ3(form, "FrameJ3", "Embryon N°3", 2),
       List1(form, "List1"),
       List2(form, "List2"),
       Calendar1(form, "Calendar1"),
@@ -40,26 +34,16 @@ FirstTrimesterSheet::FirstTrimesterSheet(forms::Form& form, ObstetricExams& exam
       panel(exams.life().state(), exams.life().around().clock, kFirstTrimesterFields, Txt1Ter,
             {List1, List2, Calendar1, Text1, CmdEfface}, {fields::kWalkEnd}),
       life_(exams.life()) {
-    Frame5.holds(CmdJ1, CmdJ2, CmdJ3);
-    const std::array frames{&FrameJ1, &FrameJ2, &FrameJ3};
-    for (std::size_t embryo = 0; embryo < frames.size(); ++embryo) {
+    for (std::size_t embryo = 0; embryo < kMost; ++embryo) {
         for (int i = 0; i < fields::kFieldsOfEmbryo; ++i) {
-            frames[embryo]->holds(Txt1Ter(fields::kFirstOfEmbryo[embryo] + i));
+            frames()[embryo]->holds(Txt1Ter(fields::kFirstOfEmbryo[embryo] + i));
         }
     }
-    Frame5.hide();
-    showEmbryo(0);
     panel.setRightClickRule([this] { return FrameJ3.visible() && !FrameJ1.visible() && !FrameJ2.visible(); });
     for (forms::TextBox* box : {&TxtPds, &TxtTaille}) {
         box->onKey = digitsOnly;
         box->onChange = [this] { computeBodyMass(); };
     }
-}
-
-void FirstTrimesterSheet::showEmbryo(int which) {
-    FrameJ1.setVisible(which == 0);
-    FrameJ2.setVisible(which == 1);
-    FrameJ3.setVisible(which == 2);
 }
 
 void FirstTrimesterSheet::readDevice() {

@@ -11,8 +11,6 @@ namespace {
 
 namespace fields = first_trimester;
 
-constexpr std::int16_t kMostEmbryos = 3;
-
 }  // namespace
 
 Form5::Form5(ObstetricExams& exams)
@@ -42,9 +40,9 @@ void Form5::wireFields() {
 }
 
 void Form5::wireButtons() {
-    sheet.CmdJ1.onClick = [this] { paint(0); };
-    sheet.CmdJ2.onClick = [this] { paint(1); };
-    sheet.CmdJ3.onClick = [this] { paint(2); };
+    for (int i = 0; i < FetusPanels::kMost; ++i) {
+        sheet.buttons()[static_cast<std::size_t>(i)]->onClick = [this, i] { sheet.paintFetus(i); };
+    }
     Command2.onClick = [this] { onDateFromLength(); };
     CmdPhotos.onClick = [this] { desk().show(QStringLiteral("Form19")); };
     CmdEnregis.onClick = [this] { save(); };
@@ -123,12 +121,9 @@ void Form5::onEmbryosChange() {
     }
     if (embryos_ == 1) {
         sheet.Frame5.hide();
-    } else if (embryos_ == 2 || embryos_ == kMostEmbryos) {
-        sheet.Frame5.show();
-        sheet.CmdJ1.show();
-        sheet.CmdJ2.show();
-        sheet.CmdJ3.setVisible(embryos_ == kMostEmbryos);
-    } else if (embryos_ > kMostEmbryos) {
+    } else if (embryos_ == 2 || embryos_ == FetusPanels::kMost) {
+        sheet.offerFetuses(embryos_ == FetusPanels::kMost);
+    } else if (embryos_ > FetusPanels::kMost) {
         // Emptying the field runs these steps again, with the number as it stands: the message comes twice.
         field(fields::kEmbryos).setText({});
         exams_.life().boxes().message(QStringLiteral("Désolé le logiciel ne traite pas plus de 3 foetus"));
@@ -146,11 +141,6 @@ void Form5::onDateFromLength() {
     } else if (start.writes()) {
         field(fields::kUltrasoundStart).setText(start.text());
     }
-}
-
-void Form5::paint(int embryo) {
-    sheet.showEmbryo(embryo);
-    sheet.Frame5.setBack(kEmbryoColors[static_cast<std::size_t>(embryo)]);
 }
 
 void Form5::save() {

@@ -41,7 +41,6 @@ private:
     void onEmbryosChange();
     void onDateFromLength();
     void refuseDates(std::initializer_list<int> cleared);
-    void paint(int embryo);
     void save();
     void addRecord();
     forms::TextBox& field(int index) { return sheet.Txt1Ter(index); }

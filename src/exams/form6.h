@@ -1,13 +1,11 @@
 #pragma once
 
-#include "exams/obstetric_exams.h"
-#include "forms/controls.h"
-#include "forms/form.h"
+#include "exams/obstetric_view.h"
 
 namespace exams {
 
 /// Shows a saved first-trimester exam, and leads to its reports, its correction and the dossier's other exams.
-class Form6 final : public forms::Form {
+class Form6 final : public ObstetricView {
 public:
     static constexpr QStringView kName = u"Form6";
 
@@ -28,39 +26,12 @@ public:
     forms::Menu Intro{*this, "Intro", "Avec Introduction", true};
     forms::Menu Aide{*this, "Aide", "A&ide"};
 
-    forms::Label LblNom{*this, "LblNom"};
-    forms::Label LblPrenom{*this, "LblPrenom"};
-    forms::Label LblNumInt{*this, "LblNumInt"};
-    forms::Label LblNumEcho{*this, "LblNumEcho"};
-    forms::Label LblDatExam{*this, "LblDatExam"};
-    forms::Label LblDatExamb{*this, "LblDatExamb"};
-    forms::Label LblAgeGesta{*this, "LblAgeGesta"};
-    forms::Label LblDDR{*this, "LblDDR"};
-    forms::Label LblDG{*this, "LblDG"};
-    forms::Label LblDGUS{*this, "LblDGUS"};
-    forms::Label LblIMC{*this, "LblIMC"};
-    forms::Label LblMachine{*this, "LblMachine"};
-    forms::Label LblDateCirc{*this, "LblDateCirc"};
-    forms::Label LblOperateur{*this, "LblOperateur"};
-    forms::Label LblModalites{*this, "LblModalites"};
-    forms::Label LblConditions{*this, "LblConditions"};
-    forms::TextBox TxtIndic{*this, "TxtIndic"};
-    forms::TextBox TxtUterus{*this, "TxtUterus"};
-    forms::TextBox TxtAnnexes{*this, "TxtAnnexes"};
-    forms::TextBox TxtDouglas{*this, "TxtDouglas"};
     forms::Label LblNbr{*this, "LblNbr"};
     forms::Label LblSituation{*this, "LblSituation"};
     forms::Label LblDim{*this, "LblDim"};
     forms::Label LblAspect{*this, "LblAspect"};
     forms::Label LblNbrE{*this, "LblNbrE"};
 
-    forms::Frame Frame5{*this, "Frame5", "G Multiple", 3};
-    forms::Button CmdJ1{*this, "CmdJ1", "J1"};
-    forms::Button CmdJ2{*this, "CmdJ2", "J2"};
-    forms::Button CmdJ3{*this, "CmdJ3", "J3"};
-    forms::Frame FrameJ1{*this, "FrameJ1", "Embryon", 0};
-    forms::Frame FrameJ2{*this, "FrameJ2", "Embryon N°2", 1};
-    forms::Frame FrameJ3{*this, "FrameJ3", "Embryon N°3", 2};
     forms::Array<forms::Label> LblMA{*this, "LblMA", 0, 2};
     forms::Array<forms::Label> LblAC{*this, "LblAC", 0, 2};
     forms::Array<forms::Label> LblLCC{*this, "LblLCC", 0, 2};
@@ -72,22 +43,10 @@ public:
 
     forms::TextBox TxtLA{*this, "TxtLA"};
     forms::TextBox TxtPl{*this, "TxtPl"};
-    forms::TextBox TxtConclu1{*this, "TxtConclu1"};
 
-    forms::Frame Frame12{*this, "Frame12", "Voir les autres Echos "};
-    forms::Button CmdPrem{*this, "CmdPrem", "1&er"};
-    forms::Button CmdRec{*this, "CmdRec", "&<"};
-    forms::Button CmdAv{*this, "CmdAv", "&>"};
-    forms::Button CmdDer{*this, "CmdDer", "De&r"};
-
-    forms::Button Hlb1T{*this, "Hlb1T", "Echo &1er Ter"};
-    forms::Button Hlb2T{*this, "Hlb2T", "Echo &2 - 3 ème Ter"};
     forms::Button Command1{*this, "Command1", "&Cpt Rendu 1T"};
     forms::Button Command2{*this, "Command2", "Cpt &Datation"};
     forms::Button Command3{*this, "Command3", "&Photos"};
-    forms::Button CmdModifs{*this, "CmdModifs", "&Modifier"};
-    forms::Button CmdSupprime{*this, "CmdSupprime", "&Supprimer"};
-    forms::Button CmdQuitter{*this, "CmdQuitter", "&Quitter"};
 
     void AFFCIVILITES();
     /// Fills the window from the current record of `Rs`.
@@ -106,15 +65,8 @@ public:
 private:
     void load() override;
     void unloading() override;
-    void wireMenus();
-    void wireButtons();
-    void showEmbryo(int which);
+    void wireSteps();
     void adjustEmbryoButtons();
-    void chooseStyle(bool detailed);
-    void leaveByMenu();
-    bool writesSettings_ = true;
-
-    ObstetricExams& exams_;
 };
 
 }  // namespace exams

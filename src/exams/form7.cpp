@@ -17,9 +17,9 @@ Form7::Form7(ObstetricExams& exams)
     : Form(exams.life().desk(), kName.toString(), QStringLiteral("Correction 1 Ter")),
       sheet(*this, exams),
       exams_(exams) {
-    sheet.CmdJ1.onClick = [this] { sheet.showEmbryo(0); };
-    sheet.CmdJ2.onClick = [this] { sheet.showEmbryo(1); };
-    sheet.CmdJ3.onClick = [this] { sheet.showEmbryo(2); };
+    for (int i = 0; i < FetusPanels::kMost; ++i) {
+        sheet.buttons()[static_cast<std::size_t>(i)]->onClick = [this, i] { sheet.showFetus(i); };
+    }
     CmdModifs.onClick = [this] { save(); };
     CmdQuitter.onClick = [this] { unload(); };
 }
@@ -35,7 +35,7 @@ void Form7::load() {
     openExam();
     AFFCIVILITES();
     readRecord(*this, kFields, kFirstTrimesterFields, exams_.life().state().Rs);
-    sheet.showEmbryo(0);
+    sheet.showFetus(0);
     showPanel();
 }
 
@@ -58,10 +58,7 @@ void Form7::showPanel() {
     if (count == 1) {
         sheet.Frame5.hide();
     } else if (count == 2 || count == 3) {
-        sheet.Frame5.show();
-        sheet.CmdJ1.show();
-        sheet.CmdJ2.show();
-        sheet.CmdJ3.setVisible(count == 3);
+        sheet.offerFetuses(count == 3);
     }
 }
 

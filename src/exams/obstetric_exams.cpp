@@ -1,6 +1,9 @@
 #include "exams/obstetric_exams.h"
 
+#include <QScopedValueRollback>
+
 #include "base/numbers.h"
+#include "exams/form10.h"
 #include "exams/form5.h"
 #include "exams/form6.h"
 #include "exams/settings_file.h"
@@ -10,8 +13,13 @@ namespace {
 
 using store::Recordset;
 
-// The later family's viewing window, which steps and counts as the first one does.
-const QString kLaterView = QStringLiteral("Form10");
+/// Shows one viewing window on the exam under the cursor in the place of the other.
+template <class Shown, class Hidden>
+void bring(forms::Desk& desk) {
+    desk.hide(Hidden::kName.toString());
+    desk.show(Shown::kName.toString());
+    desk.at<Shown>().display();
+}
 
 }  // namespace
 
@@ -29,15 +37,11 @@ void ObstetricExams::openNew(dossier::ExamFamily family) {
 }
 
 void ObstetricExams::display() {
-    forms::Desk& desk = life_.desk();
-    if (!isFirstTrimester(life_.state().Rs)) {
-        desk.hide(Form6::kName.toString());
-        desk.show(kLaterView);
-        return;
+    if (isFirstTrimester(life_.state().Rs)) {
+        bring<Form6, Form10>(life_.desk());
+    } else {
+        bring<Form10, Form6>(life_.desk());
     }
-    desk.hide(kLaterView);
-    desk.show(Form6::kName.toString());
-    desk.at<Form6>().display();
 }
 
 void ObstetricExams::showLast() {
@@ -45,13 +49,9 @@ void ObstetricExams::showLast() {
 }
 
 QString ObstetricExams::numberInView() const {
-    for (const QString& name : {Form6::kName.toString(), kLaterView}) {
-        const forms::Form* view = life_.desk().peek(name);
-        if (view && view->shown()) {
-            return base::queryNumber(view->find(u"LblNumEcho")->text());
-        }
-    }
-    const auto* view = life_.desk().peek<Form6>();
+    const ObstetricView* first = life_.desk().peek<Form6>();
+    const ObstetricView* later = life_.desk().peek<Form10>();
+    const ObstetricView* view = first && (first->shown() || !later) ? first : later;
     return base::queryNumber(view ? view->LblNumEcho.text() : QString());
 }
 
@@ -109,12 +109,10 @@ void ObstetricExams::showNext() {
 }
 
 void ObstetricExams::setStepping(bool possible) {
-    for (const QString& name : {Form6::kName.toString(), kLaterView}) {
-        if (life_.desk().known().contains(name)) {
-            forms::Form& view = life_.desk().at(name);
-            view.find(u"CmdRec")->setVisible(possible);
-            view.find(u"CmdAv")->setVisible(possible);
-        }
+    for (ObstetricView* view :
+         std::initializer_list<ObstetricView*>{&life_.desk().at<Form6>(), &life_.desk().at<Form10>()}) {
+        view->CmdRec.setVisible(possible);
+        view->CmdAv.setVisible(possible);
     }
 }
 
@@ -127,13 +125,39 @@ void ObstetricExams::leaveWriting() {
     }
 }
 
-void ObstetricExams::keepReportStyle() {
+void ObstetricExams::keepMarks() {
+    if (!keepsMarks_) {
+        return;
+    }
     LoadedMarks marks;
+    if (const auto* view = life_.desk().peek<Form10>()) {
+        marks.laterDetailed = view->CptrD.checked();
+        marks.laterIntroduction = view->Intro.checked();
+    }
     if (const auto* view = life_.desk().peek<Form6>()) {
         marks.firstDetailed = view->CptrD.checked();
         marks.firstIntroduction = view->Intro.checked();
     }
     writeSettings(life_.around().programFolder, marks);
+}
+
+void ObstetricExams::withoutKeepingMarks(const std::function<void()>& close) {
+    const QScopedValueRollback quiet(keepsMarks_, false);
+    close();
+}
+
+void ObstetricExams::leaveViewing(std::initializer_list<QStringView> along) {
+    keepMarks();
+    const bool outer = !leaving_;
+    {
+        const QScopedValueRollback leaving(leaving_, true);
+        for (const QStringView window : along) {
+            life_.desk().unload(window.toString());
+        }
+    }
+    if (outer) {
+        life_.returnToDossier();
+    }
 }
 
 bool ObstetricExams::deleteInView(const QString& number) {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <functional>
+#include <initializer_list>
 
 #include "exams/exam_life.h"
 
@@ -21,7 +23,7 @@ public:
     /// Shows the last exam of the open dossier, or says that there is none.
     void showLast();
 
-    /// The number of the exam in view, as it is joined into a query; "0" if none is.
+    /// The number of the exam in view, as it is joined into a query; "0" if no viewing window is loaded.
     QString numberInView() const;
 
     // Stepping among the exams of the dossier. At the edges the first or last one is shown again.
@@ -45,7 +47,11 @@ public:
     void leaveWriting();
 
     /// Writes the marks of the windows that are loaded into the settings file beside the program.
-    void keepReportStyle();
+    void keepMarks();
+    /// Closes windows without that: whatever goes with them, the file stays as it is.
+    void withoutKeepingMarks(const std::function<void()>& close);
+    /// What a viewing window does when it goes: it takes these windows along and leads to a fresh dossier window.
+    void leaveViewing(std::initializer_list<QStringView> along);
 
     /// Asks twice, then deletes the exam in view and clears the writing window of the family; false if a question was
     /// not answered Yes. The caller unloads its viewing window and then puts the cursor on the patients.
@@ -58,6 +64,9 @@ private:
     void closeBiometry();
 
     ExamLife& life_;
+    bool keepsMarks_ = true;
+    // While one viewing window takes the other along, the outer one alone leads back.
+    bool leaving_ = false;
 };
 
 /// Whether the exam under the cursor is one of the first trimester.

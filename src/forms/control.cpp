@@ -1,5 +1,6 @@
 #include "forms/control.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "forms/form.h"
@@ -53,6 +54,9 @@ void Control::setVisible(bool visible) {
     }
     visible_ = visible;
     tell(Aspect::Visible);
+    for (const Control* lower : lower_) {
+        lower->tell(Aspect::Visible);
+    }
     form_.dropLostFocus();
 }
 
@@ -65,6 +69,15 @@ void Control::setEnabled(bool enabled) {
     form_.dropLostFocus();
 }
 
+void Control::layOver(Control& lower) {
+    lower.upper_.push_back(this);
+    lower_.push_back(&lower);
+}
+
+bool Control::covered() const {
+    return std::ranges::any_of(upper_, &Control::visible);
+}
+
 void Control::setPlace(const Place& place) {
     if (place_ != place) {
         place_ = place;
@@ -73,7 +86,7 @@ void Control::setPlace(const Place& place) {
 }
 
 bool Control::reachable() const {
-    return visible_ && enabled_ && (!holder_ || holder_->reachable());
+    return visible_ && !covered() && enabled_ && (!holder_ || holder_->reachable());
 }
 
 void Control::setFocus() {

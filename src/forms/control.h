@@ -3,6 +3,7 @@
 #include <QString>
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "forms/observers.h"
 
@@ -109,11 +110,16 @@ public:
     Control* holder() const { return holder_; }
     void setHolder(Control* frame) { holder_ = frame; }
 
+    /// Makes this panel lie over another one: while both are visible, only this one is seen.
+    void layOver(Control& lower);
+    /// Whether a visible panel lies over it.
+    bool covered() const;
+
     /// Where a step has put it; none if that is the layout's own matter.
     std::optional<Place> place() const { return place_; }
     void setPlace(const Place& place);
 
-    /// Whether it and all that holds it is visible and enabled.
+    /// Whether it and all that holds it is visible, not covered and enabled.
     bool reachable() const;
 
     /// Asks for the focus; ignored if the control is out of reach or its window is not shown.
@@ -142,6 +148,8 @@ private:
     QString name_;
     int index_;
     Control* holder_ = nullptr;
+    std::vector<const Control*> upper_;
+    std::vector<const Control*> lower_;
     bool visible_ = true;
     bool enabled_ = true;
     std::optional<Place> place_;

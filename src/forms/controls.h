@@ -309,7 +309,9 @@ class Array {
 public:
     Array(Form& form, const QString& name, int first, int last) : first_(first) {
         for (int i = first; i <= last; ++i) {
-            if constexpr (std::is_base_of_v<TextControl, T>) {
+            if constexpr (std::is_same_v<ComboBox, T>) {
+                controls_.push_back(std::make_unique<T>(form, name, QStringList(), i));
+            } else if constexpr (std::is_base_of_v<TextControl, T>) {
                 controls_.push_back(std::make_unique<T>(form, name, QString(), i));
             } else {
                 controls_.push_back(std::make_unique<T>(form, name, i));

@@ -132,7 +132,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FormWindow::syncState(forms::Control& control, QWidget* widget) {
-    widget->setVisible(control.visible());
+    widget->setVisible(control.visible() && !control.covered());
     widget->setEnabled(control.enabled());
 }
 

@@ -33,6 +33,7 @@ Layout layoutOf(const QString& form) {
         entry(layOutForm6),
         entry(layOutForm7),
         entry(layOutForm9),
+        entry(layOutForm10),
         entry(layOutForm14),
         entry(layOutForm15),
         entry(layOutForm16),

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "exams/form10.h"
 #include "exams/form5.h"
 #include "exams/form6.h"
 #include "exams/form7.h"
@@ -10,7 +11,7 @@
 
 namespace exams {
 
-/// The windows of the first trimester on a small practice: patient 2 is DUPONT Marie, patient 3 is MARTIN Anne.
+/// The obstetric exam windows on a small practice: patient 2 is DUPONT Marie, patient 3 is MARTIN Anne.
 class ExamWindows : public ::testing::Test, public dossier::ExamDoors {
 protected:
     ~ExamWindows() override {
@@ -29,6 +30,7 @@ protected:
         desk.add("Form5", [&] { return std::make_unique<Form5>(exams_); });
         desk.add("Form6", [&] { return std::make_unique<Form6>(exams_); });
         desk.add("Form7", [&] { return std::make_unique<Form7>(exams_); });
+        desk.add("Form10", [&] { return std::make_unique<Form10>(exams_); });
         desk.add("RicheT", [&] { return std::make_unique<reports::RicheT>(world_.around); });
         desk.setUnknown([this](const QString& name) { unknown_ << name; });
     }
@@ -49,6 +51,12 @@ protected:
     Form6& viewLast(const QString& surname = "DUPONT") {
         press(dossierOf(surname).HlbCptDer);
         return view();
+    }
+    Form10& laterView() { return desk().at<Form10>(); }
+    /// The same for a patient whose last exam is one of the later trimesters.
+    Form10& viewLastLater(const QString& surname = "DUPONT") {
+        press(dossierOf(surname).HlbCptDer);
+        return laterView();
     }
     Form7& correct() {
         press(view().CmdModifs);
@@ -83,6 +91,9 @@ protected:
 
     void addExam(int patient, int number, const QString& date, const fakes::Fields& more = {{"TYPECHO", "1"}}) {
         fakes::addExam(world_, "1TER", patient, number, date, more);
+    }
+    void addLater(int patient, int number, const QString& date, const fakes::Fields& more = {}) {
+        addExam(patient, number, date, fakes::Fields{{"TYPECHO", "0"}} + more);
     }
     void store(int rubric, const QString& text) {
         fakes::add(world_, "OPTIONS", {{"NUMEROS", rubric}, {"Texte", text}, {"TERMINAIS", "A"}});

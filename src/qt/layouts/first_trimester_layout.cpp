@@ -108,7 +108,7 @@ private:
         row->addWidget(multiplePanel(bind_, sheet_.Frame5, {&sheet_.CmdJ1, &sheet_.CmdJ2, &sheet_.CmdJ3}));
         row->addStretch(1);
         column->addWidget(count);
-        const std::array frames{&sheet_.FrameJ1, &sheet_.FrameJ2, &sheet_.FrameJ3};
+        const auto frames = sheet_.frames();
         for (std::size_t i = 0; i < frames.size(); ++i) {
             column->addWidget(embryo(*frames[i], exams::first_trimester::kFirstOfEmbryo[i],
                                      i < circumferences.size() ? circumferences[i] : nullptr),

@@ -6,7 +6,7 @@
 
 #include "qt/binder.h"
 #include "qt/layouts/exam_layouts.h"
-#include "qt/layouts/exam_parts.h"
+#include "qt/layouts/obstetric_view_parts.h"
 #include "qt/layouts/parts.h"
 #include "qt/section.h"
 #include "qt/theme.h"
@@ -23,7 +23,7 @@ public:
     void build() {
         auto* all = newColumn(&window_, 2);
         all->setMenuBar(bind_.menuBar());
-        all->addWidget(strip());
+        all->addWidget(viewStrip(bind_, form_));
         auto* body = newRow();
         body->setSpacing(3 * kGrid);
         body->addLayout(context(), 4);
@@ -35,38 +35,9 @@ public:
     }
 
 private:
-    QWidget* strip() {
-        ExamStrip strip(bind_);
-        strip.identity(form_.LblNom, form_.LblPrenom, form_.LblNumInt);
-        strip.value(QStringLiteral("Echographie N°"), bind_.label(form_.LblNumEcho));
-        strip.value(QStringLiteral("Date de l'Examen"), bind_.label(form_.LblDatExam));
-        strip.value(QStringLiteral("Age Gestationnel"), bind_.label(form_.LblAgeGesta));
-        strip.nextLine();
-        strip.value(QStringLiteral("DDR"), bind_.label(form_.LblDDR));
-        strip.value(QStringLiteral("DDG Théorique"), bind_.label(form_.LblDG));
-        strip.value(QStringLiteral("DDG US"), bind_.label(form_.LblDGUS));
-        strip.value(QStringLiteral("IMC"), bind_.label(form_.LblIMC));
-        strip.value(QStringLiteral("Appareil"), bind_.label(form_.LblMachine));
-        strip.value(QStringLiteral("en service"), bind_.label(form_.LblDateCirc));
-        return strip.widget();
-    }
-
-    QLabel* shown(forms::Label& control) {
-        QLabel* label = bind_.label(control);
-        label->setWordWrap(true);
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        return label;
-    }
-
     QLayout* context() {
         auto* column = newColumn();
-        auto* exam = new Section(QStringLiteral("Examen"));
-        auto* rows = newFields(exam->body());
-        rows->addRow(QStringLiteral("Opérateur"), shown(form_.LblOperateur));
-        rows->addRow(QStringLiteral("Examen du"), shown(form_.LblDatExamb));
-        rows->addRow(QStringLiteral("Modalité d'examen"), shown(form_.LblModalites));
-        rows->addRow(QStringLiteral("Conditions d'examen"), shown(form_.LblConditions));
-        column->addWidget(exam);
+        column->addWidget(examSection(bind_, form_));
         auto* pelvis = new Section(QStringLiteral("Indication et pelvis"));
         auto* memos = newFields(pelvis->body());
         addMemo(memos, QStringLiteral("Indication"), form_.TxtIndic);
@@ -87,10 +58,9 @@ private:
         rows->addRow(QStringLiteral("Aspect"), shown(form_.LblAspect));
         rows->addRow(QStringLiteral("Nbr. d'Embryons"), shown(form_.LblNbrE));
         column->addWidget(sac);
-        column->addWidget(multiplePanel(bind_, form_.Frame5, {&form_.CmdJ1, &form_.CmdJ2, &form_.CmdJ3}));
-        const std::array frames{&form_.FrameJ1, &form_.FrameJ2, &form_.FrameJ3};
-        for (int i = 0; i < 3; ++i) {
-            column->addWidget(embryo(*frames[static_cast<std::size_t>(i)], i), 1);
+        column->addWidget(multiplePanel(bind_, form_));
+        for (int i = 0; i < exams::FetusPanels::kMost; ++i) {
+            column->addWidget(embryo(*form_.frames()[static_cast<std::size_t>(i)], i), 1);
         }
         return column;
     }
@@ -120,14 +90,8 @@ private:
         auto* inside = newColumn(end->body());
         inside->addWidget(bind_.memo(form_.TxtConclu1, QStringLiteral("Conclusion")), 1);
         column->addWidget(end, 3);
-        column->addWidget(stepping());
+        column->addWidget(steppingSection(bind_, form_));
         return column;
-    }
-
-    QWidget* stepping() {
-        Section* section = bind_.section(form_.Frame12);
-        section->body()->setLayout(steppingRow(bind_, {&form_.CmdPrem, &form_.CmdRec, &form_.CmdAv, &form_.CmdDer}));
-        return section;
     }
 
     QLayout* actions() {
@@ -135,10 +99,9 @@ private:
                                  &form_.CmdSupprime, &form_.Hlb1T, &form_.Hlb2T, &form_.CmdQuitter});
     }
 
+    QLabel* shown(forms::Label& control) { return shownValue(bind_, control); }
     void addMemo(QFormLayout* rows, const QString& caption, forms::TextBox& box) {
-        auto* memo = bind_.memo(box, caption);
-        memo->setMinimumHeight(kMemoHeight);
-        rows->addRow(caption, memo);
+        addMemoRow(bind_, rows, caption, box);
     }
 
     exams::Form6& form_;
