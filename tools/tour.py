@@ -68,6 +68,7 @@ class Tour:
         self.sheets()
         self.exam()
         self.report()
+        self.gynaecology()
 
     def sheets(self):
         self.port.click("Form4.CmdModifie")
@@ -99,6 +100,29 @@ class Tour:
         self.port.click("RicheT.tbToolBar(Imprimer)")
         self.port.click("RicheT.tbToolBar(Quitter)")
         self.port.click("Form6.CmdQuitter")
+
+    def gynaecology(self):
+        self.port.type("Form4.Text1", text="rossignol")
+        self.port.click("Form4.CmdGyneco")
+        self.port.focus("Form16.TxtGyneco(6)")
+        self.picture("Form16", "gynecologie-redaction")
+        self.port.click("Form16.Command1")
+        self.port.focus("Form16.TxtGyneco(30)")
+        for size in ["17", "12"]:
+            self.port.dblclick("Form16.List2", line=size)
+        self.picture("Form16", "ovulation-redaction")
+        self.port.click("Form16.CmdQuitter")
+        self.port.click("Form4.Command5")
+        self.picture("Form18", "gynecologie")
+        self.port.click("Form18.CmdCptGyn")
+        self.picture("RicheT", "gynecologie-compte-rendu")
+        self.port.click("RicheT.tbToolBar(Quitter)")
+        self.port.click("Form18.Command2")
+        self.picture("Form18", "ovulation")
+        self.port.click("Form18.CmdModifs")
+        self.picture("Form17", "gynecologie-correction")
+        self.port.click("Form17.CmdQuitter")
+        self.port.click("Form18.CmdQuitter")
 
     def end(self):
         self.port.end()

@@ -30,7 +30,11 @@ void FormWindow::bind(forms::Control& control, QWidget* widget, std::function<vo
     widgets_[&control] = widget;
     controls_[widget] = &control;
     widget->installEventFilter(this);
-    syncState(control, widget);
+    widget->setEnabled(control.enabled());
+    // A widget that stands nowhere yet and is shown would come up as a window of its own.
+    if (!control.visible() || !widget->isWindow()) {
+        widget->setVisible(control.visible());
+    }
     subscriptions_.push_back(control.observe([this, &control, widget, sync](forms::Aspect aspect, int index) {
         if (aspect == forms::Aspect::Visible || aspect == forms::Aspect::Enabled) {
             syncState(control, widget);

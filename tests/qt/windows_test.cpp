@@ -12,6 +12,7 @@
 #include "dossier/form4.h"
 #include "fakes/world.h"
 #include "practice/practice.h"
+#include "qt/form_window.h"
 #include "qt/stage.h"
 #include "shell/program.h"
 #include "store/schema.h"
@@ -23,6 +24,23 @@ using forms::Control;
 using forms::Kind;
 
 constexpr QSize kSmallScreen(1366, 768);
+
+/// Counts what comes up on screen as a window of its own.
+class TopLevels final : public QObject {
+public:
+    TopLevels() { qApp->installEventFilter(this); }
+    QStringList seen;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const auto* widget = qobject_cast<QWidget*>(watched);
+        const bool onItsOwn = widget && widget->isWindow() && !widget->graphicsProxyWidget();
+        if (event->type() == QEvent::Show && onItsOwn && !dynamic_cast<const FormWindow*>(widget)) {
+            seen << QString::fromLatin1(widget->metaObject()->className()) + u' ' + widget->objectName();
+        }
+        return false;
+    }
+};
 
 /// Rules that hold for every window of the program.
 class AllWindows : public ::testing::Test {
@@ -65,6 +83,7 @@ protected:
         }
     }
 
+    TopLevels topLevels_;
     fakes::World world_;
     shell::Program program_{world_.machine};
     WindowStage stage_{program_.desk(), [] {}};
@@ -82,6 +101,10 @@ TEST_F(AllWindows, ShowEachOfTheirControls) {
         const bool menu = control.kind() == Kind::Menu && stage_.windowOf(control.form())->actionOf(control);
         EXPECT_TRUE(widget || menu) << name;
     });
+}
+
+TEST_F(AllWindows, ComeUpWithNoPieceOfTheirsAsAWindowOfItsOwn) {
+    EXPECT_EQ(topLevels_.seen, QStringList());
 }
 
 TEST_F(AllWindows, FitASmallScreen) {

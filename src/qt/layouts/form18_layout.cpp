@@ -9,6 +9,7 @@
 
 #include "qt/layouts/exam_parts.h"
 #include "qt/layouts/gynaecology_layouts.h"
+#include "qt/layouts/gynaecology_strip.h"
 #include "qt/layouts/parts.h"
 #include "qt/section.h"
 #include "qt/theme.h"
@@ -28,7 +29,7 @@ public:
     void build() {
         auto* all = newColumn(&window_, 2);
         all->setMenuBar(bind_.menuBar());
-        all->addWidget(strip());
+        all->addWidget(gynaecologyStrip(bind_, form_));
         all->addWidget(pageTitle(bind_, form_.pages.Label1));
         auto* body = new QGridLayout;
         body->setHorizontalSpacing(3 * kGrid);
@@ -50,18 +51,6 @@ public:
     }
 
 private:
-    QWidget* strip() {
-        ExamStrip strip(bind_);
-        strip.identity(form_.LblNom, form_.LblPrenom, form_.LblNumInt);
-        const QString number = QStringLiteral("Echographie N°");
-        const QString date = QStringLiteral("Date de l'Examen");
-        strip.value(number, narrowLine(bind_, form_.TxtNumEcho, number, 3));
-        strip.value(date, narrowLine(bind_, form_.TxtDate, date, 10));
-        strip.value(QStringLiteral("Appareil"), bind_.label(form_.LblMachine));
-        strip.value(QStringLiteral("en service"), bind_.label(form_.LblDateCirc));
-        return strip.widget();
-    }
-
     QLayout* examAndConclusion() {
         auto* column = newColumn();
         auto* exam = pageSection(bind_, form_.pages.Frame2);

@@ -8,6 +8,7 @@
 #include "qt/key_filter.h"
 #include "qt/layouts/exam_parts.h"
 #include "qt/layouts/gynaecology_layouts.h"
+#include "qt/layouts/gynaecology_strip.h"
 #include "qt/layouts/offer_panel_layout.h"
 #include "qt/layouts/parts.h"
 #include "qt/section.h"
@@ -31,7 +32,7 @@ public:
 
     void build(const std::vector<forms::Button*>& actions) {
         auto* all = newColumn(&window_, 2);
-        all->addWidget(strip());
+        all->addWidget(gynaecologyStrip(bind_, sheet_));
         auto* body = newRow();
         body->setSpacing(2 * kGrid);
         body->addWidget(fields(), 1);
@@ -39,30 +40,14 @@ public:
             bind_, {sheet_.List1, sheet_.List2, sheet_.Calendar1, sheet_.Text1, sheet_.CmdEfface}, &sheet_.Text2));
         all->addLayout(body, 1);
         all->addLayout(actionRow(bind_, actions));
-        // No step but the focus knows this one; it has no place of its own on the sheet.
-        auto* spare = new QWidget(&window_);
-        newRow(spare)->addWidget(bind_.line(sheet_.TxtGyneco(0), QStringLiteral("Champ libre")));
-        spare->hide();
         window_.resize(1330, 710);
     }
 
 private:
-    QWidget* strip() {
-        ExamStrip strip(bind_);
-        strip.identity(sheet_.LblNom, sheet_.LblPrenom, sheet_.LblNumInt);
-        const QString number = QStringLiteral("Echographie N°");
-        const QString date = QStringLiteral("Date de l'Examen");
-        strip.value(number, narrowLine(bind_, sheet_.TxtNumEcho, number, 3));
-        strip.value(date, narrowLine(bind_, sheet_.TxtDate, date, 10));
-        strip.value(QStringLiteral("Appareil"), bind_.label(sheet_.LblMachine));
-        strip.value(QStringLiteral("en service"), bind_.label(sheet_.LblDateCirc));
-        return strip.widget();
-    }
-
     QWidget* fields() {
         auto* page = new QWidget;
         auto* column = newColumn(page);
-        column->addWidget(pageTitle(bind_, sheet_.pages.Label1));
+        column->addLayout(titleRow());
         // The two pages take turns in the right column.
         auto* columns = new QGridLayout;
         columns->setHorizontalSpacing(2 * kGrid);
@@ -78,6 +63,16 @@ private:
         area->setFrameShape(QFrame::NoFrame);
         area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         return area;
+    }
+
+    // Behind the title the field that both pages have and no record keeps.
+    QLayout* titleRow() {
+        auto* row = newRow();
+        row->addWidget(pageTitle(bind_, sheet_.pages.Label1), 1);
+        QLineEdit* spare = narrowLine(bind_, sheet_.TxtGyneco(0), QStringLiteral("Champ libre"), 16);
+        spare->setToolTip(QStringLiteral("Champ libre, qui n'est pas enregistré"));
+        row->addWidget(spare);
+        return row;
     }
 
     QLayout* examAndUterus() {
