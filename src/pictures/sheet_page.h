@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QRectF>
+#include <QString>
+#include <memory>
+#include <optional>
+
+#include "ports/printer.h"
+
+class QImage;
+
+namespace pictures {
+
+/// A line of text on a picture sheet.
+struct SheetLine {
+    QString text;
+    double points = 20;
+    bool bold = false;
+    /// Where it stands, in millimetres from the top; none is below the line before.
+    std::optional<double> top = std::nullopt;
+
+    bool operator==(const SheetLine&) const = default;
+};
+
+/// The one page of a picture sheet on its way to a printer. Its origin is the first point that the printer reaches.
+/// What comes later lies over what came before. Letting go of it ends the document.
+class SheetPage {
+public:
+    /// Opens the document. Throws DeviceError.
+    SheetPage(ports::Printer& printer, const QString& title);
+
+    void print(const SheetLine& line);
+    /// Stretches a picture to a rectangle in millimetres, whatever its shape. All its pixels go to the printer.
+    void draw(const QImage& picture, const QRectF& place);
+
+private:
+    ports::PageGeometry page_;
+    std::unique_ptr<ports::PrintJob> job_;
+    // Where the next line stands, in twips.
+    double next_ = 0;
+};
+
+}  // namespace pictures
