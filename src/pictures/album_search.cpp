@@ -59,7 +59,7 @@ FoundPictures collect(Recordset rows, const QString& criterion, Line line) {
 }  // namespace
 
 QString holds(QStringView field, const QString& text) {
-    return field + QStringLiteral(" LIKE '*") + text + QStringLiteral("*'");
+    return field.toString() + QStringLiteral(" LIKE '*") + text + QStringLiteral("*'");
 }
 
 QString queryText(const AlbumSearch& wanted) {
@@ -79,7 +79,7 @@ FoundPictures search(const AlbumBase& base, SortedSearch by, const QString& text
     const Sorting& sorting = sortingOf(by);
     const QString condition = holds(sorting.field, text);
     return collect(base.open(QStringLiteral("SELECT*FROM ECHOS WHERE ") + condition + QStringLiteral(" ORDER BY ") +
-                             sorting.order),
+                             sorting.order.toString()),
                    condition, sorting.line);
 }
 

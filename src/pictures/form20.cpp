@@ -258,14 +258,14 @@ store::Recordset Form20::recordOf(QStringView field, const QString& text) const 
 void Form20::viewFromWall(int place) {
     if (!Image1(place).empty()) {
         const QString path = TxtPath(place).text();
-        view(recordOf(kPath, path), loadPicture(path));
+        view(recordOf(kPath, path), path);
     }
 }
 
 void Form20::viewFromPaths() {
     if (List4.row() >= 0) {
         QString path = List4.text();
-        viewOrDeclass(path, [&] { view(recordOf(kPath, path), loadPicture(path)); });
+        viewOrDeclass(path, [&] { view(recordOf(kPath, path), path); });
     }
 }
 
@@ -279,7 +279,7 @@ void Form20::viewFromLines() {
         const int number = base::toInt32(base::toNumber(ListNom.text().left(kNumberWidth)));
         const store::Recordset record = recordOf(u"NUMINT", QString::number(number));
         path = record.text(kPath);
-        view(record, loadPicture(path));
+        view(record, path);
         TxtNumEcho.setText(record.text(QStringLiteral("NUMECHO")));
     });
 }
@@ -296,8 +296,8 @@ void Form20::viewOrDeclass(const QString& path, Step step) {
     }
 }
 
-void Form20::view(const store::Recordset& record, const QImage& picture) {
-    Image2.setPicture(picture);
+void Form20::view(const store::Recordset& record, const QString& path) {
+    Image2.setPicture(loadPicture(path));
     Image2.show();
     CmdImpr.show();
     CmdFermer.show();

@@ -148,7 +148,7 @@ private:
     /// Runs the way to a picture. One that leads nowhere ends in the question whether to forget the picture's record.
     template <class Step>
     void viewOrDeclass(const QString& path, Step step);
-    void view(const store::Recordset& record, const QImage& picture);
+    void view(const store::Recordset& record, const QString& path);
     void closeView();
     void askToDeclass(const QString& path);
 
