@@ -33,7 +33,7 @@ QWidget* keyTaker(const Target& target) {
 // The widget under the mouse: what scrolls has its inside there.
 QWidget* mouseTaker(const Target& target) {
     auto* area = qobject_cast<QAbstractScrollArea*>(target.widget);
-    return area ? area->viewport() : target.widget;
+    return area ? area->viewport() : keyTaker(target);
 }
 
 bool onScreen(const Target& target) {

@@ -56,6 +56,27 @@ private:
     std::function<void()> clicked_;
 };
 
+/// Calls a handler at a double click, which does what else it does there all the same.
+class DoubleClickFilter final : public QObject {
+public:
+    DoubleClickFilter(QWidget* watched, std::function<void()> clicked)
+        : QObject(watched), clicked_(std::move(clicked)) {
+        watched->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonDblClick &&
+            static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+            clicked_();
+        }
+        return false;
+    }
+
+private:
+    std::function<void()> clicked_;
+};
+
 // The program's texts end their lines with "\r\n", the editor's with "\n".
 QString toEditor(QString text) {
     return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
@@ -277,9 +298,11 @@ QListView* Binder::list(forms::ListBox& control, const QString& caption) {
                      [chosen](const QModelIndex& at) { chosen(at.row(), &forms::Control::click); });
     QObject::connect(view, &QListView::doubleClicked, window,
                      [chosen](const QModelIndex& at) { chosen(at.row(), &forms::Control::doubleClick); });
-    new PressFilter(view, [view, chosen](const QKeyEvent& event) {
+    new PressFilter(view, [view, chosen, &control](const QKeyEvent& event) {
         if (isEnter(event) && view->currentIndex().isValid()) {
-            chosen(view->currentIndex().row(), &forms::Control::doubleClick);
+            // In a list where a click alone means something Enter stands for that.
+            chosen(view->currentIndex().row(),
+                   control.onDoubleClick ? &forms::Control::doubleClick : &forms::Control::click);
         }
         return isEnter(event);
     });
@@ -341,6 +364,8 @@ QComboBox* Binder::combo(forms::ComboBox& control, const QString& caption) {
     combo->addItems(control.items());
     combo->setEditText(control.text());
     FormWindow* window = &window_;
+    new DoubleClickFilter(combo->lineEdit(),
+                          [window, &control] { window->act([&control] { control.doubleClick(); }); });
     QObject::connect(combo->lineEdit(), &QLineEdit::textEdited, window, [window, &control](const QString& text) {
         window->act([&control, text] { control.setText(text); });
     });
@@ -426,7 +451,13 @@ PictureView* Binder::picture(forms::Image& control, const QString& caption) {
                          .click = [window, &control] { window->act([&control] { control.click(); }); },
                          .doubleClick = [window, &control] { window->act([&control] { control.doubleClick(); }); }});
     view->setAccessibleName(caption);
-    const auto sync = [&control, view](Aspect, int) { view->setPicture(control.picture()); };
+    const auto sync = [&control, view](Aspect aspect, int) {
+        if (aspect == Aspect::Place) {
+            placeAt(view, *control.place());
+        } else {
+            view->setPicture(control.picture());
+        }
+    };
     window_.bind(control, view, sync);
     sync(Aspect::Picture, -1);
     window_.atRetirement([view] { view->release(); });

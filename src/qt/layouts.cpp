@@ -2,6 +2,7 @@
 
 #include <map>
 
+#include "qt/layouts/album_layout.h"
 #include "qt/layouts/dossier_layouts.h"
 #include "qt/layouts/exam_layouts.h"
 #include "qt/layouts/gynaecology_layouts.h"
@@ -39,6 +40,7 @@ Layout layoutOf(const QString& form) {
         entry(layOutForm16),
         entry(layOutForm17),
         entry(layOutForm18),
+        entry(layOutForm20),
         entry(layOutForm21),
         entry(layOutForm22),
         entry(layOutRicheT),

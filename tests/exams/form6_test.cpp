@@ -268,6 +268,26 @@ TEST_F(ViewingWindow, EachExitUnloadsTheWindowsAndBringsAFreshDossierWindow) {
     EXPECT_TRUE(world_.boxes.reported.isEmpty());
 }
 
+class SearchFields final : public forms::Form {
+public:
+    explicit SearchFields(forms::Desk& desk) : Form(desk, "Form20", {}) {}
+    forms::TextBox TxtRechNom{*this, "TxtRechNom"};
+    forms::TextBox TxtRechDate{*this, "TxtRechDate"};
+    forms::TextBox TxtRechNumEcho{*this, "TxtRechNumEcho"};
+};
+
+TEST_F(ViewingWindow, GivesTheAlbumWhatToSearchFor) {
+    desk().add("Form20", [this] { return std::make_unique<SearchFields>(desk()); });
+    threeExams();
+    viewLast();
+    press(view().Command3);
+    const auto& album = static_cast<SearchFields&>(desk().at("Form20"));
+    EXPECT_TRUE(album.shown());
+    EXPECT_EQ(album.TxtRechNom.text(), "DUPONT");
+    EXPECT_EQ(album.TxtRechDate.text(), "12/03/2002");
+    EXPECT_EQ(album.TxtRechNumEcho.text(), "3");
+}
+
 TEST_F(ViewingWindow, OpensANewExamOfEitherFamily) {
     threeExams();
     viewLast();

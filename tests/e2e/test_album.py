@@ -1,0 +1,284 @@
+"""Classing pictures, finding them again, and printing them on a sheet."""
+
+import struct
+
+import pytest
+
+NOT_CLASSED = "Erreur de manipulation, Fichier dèjà saisi ou sans nom!"
+NOTHING_FOUND = "Pas de cliché trouvé"
+LOST = "Ce cliché a été déclassé, Voulez supprimer ce classement ?"
+HUES = [(200, 30, 30), (30, 200, 30), (30, 30, 200), (200, 200, 30), (30, 200, 200), (200, 30, 200), (90, 90, 90)]
+
+
+def bitmap(path, hue=(200, 30, 30), width=64, height=48):
+    """Writes a 24-bit bitmap of one colour."""
+    row = bytes(reversed(hue)) * width
+    body = (row + b"\0" * (-len(row) % 4)) * height
+    head = struct.pack("<2sIHHI", b"BM", 54 + len(body), 0, 0, 54)
+    path.parent.mkdir(exist_ok=True)
+    path.write_bytes(head + struct.pack("<IiiHHIIiiII", 40, width, height, 1, 24, 0, len(body), 0, 0, 0, 0) + body)
+    return str(path)
+
+
+@pytest.fixture
+def album(practice):
+    """The album over the main menu, with its four lists of words filled."""
+    for number, words in enumerate([["Normal", "Kyste de l'ovaire"], ["Face", "Ovaire"], ["Profil"], ["Courrier"]]):
+        for text in words:
+            practice.insert(table="CLEFS", row={"NUMCRIT": number, "CRIT": text})
+    practice.start()
+    practice.click("Form1.Command6")
+    assert practice.shown() == {"Form1", "Form20"}
+    return practice
+
+
+def class_records(port, count):
+    """So many pictures, each with a file of its own and a value in every field."""
+    for i in range(1, count + 1):
+        path = bitmap(port.folder / "VIDEOTEK" / f"p{i}.bmp", HUES[i % len(HUES)])
+        port.insert(
+            table="ECHOS",
+            row={
+                "Nom": "MARTIN", "Prenom": "Anne", "DATEXAM": "02/05/2002", "NOMFICH": f"p{i}.bmp", "NOMPATH": path,
+                "Typexam": "1", "DIAGNO": "Normal", "CRIT1": "Face", "CRIT2": "Profil", "CRIT3": "Courrier",
+            },
+        )
+
+
+def stored(port):
+    return port.rows(table="ECHOS")["rows"]
+
+
+def open_file(port, path):
+    port.answer(**{"with": [{"file": str(path)}]})
+    port.click("Form20.CmdOuvrir")
+
+
+def wall(port):
+    """The names of the files whose pictures are on the wall, in order."""
+    places = [(port.get(f"Form20.Image1({i})")["picture"], port.text(f"Form20.TxtPath({i})")) for i in range(20)]
+    return [path.rsplit("/", 1)[-1] for picture, path in places if picture]
+
+
+def found(port):
+    return [line.split()[0] for line in port.items("Form20.ListNom")]
+
+
+def test_a_file_is_classed_with_all_its_values(album):
+    path = bitmap(album.folder / "kyste.bmp")
+    open_file(album, path)
+    assert [box["kind"] for box in album.boxes] == ["open"]
+    assert album.boxes[0]["filter"] == "Images (*.BMP;*.JPG;*.ICO)|*.BMP;*.JPG;*.ICO"
+    assert album.get("Form20.ImgCharge")["picture"] == {"width": 64, "height": 48}
+    assert album.text("Form20.TxtDate") == "05/04/2002"
+    assert album.get("Form20.Label18")["onscreen"]
+    album.type("Form20.TxtNom", text="D'ALMEIDA")
+    album.type("Form20.TxtPrenom", text="Inès")
+    album.click("Form20.Option4")
+    album.choose("Form20.CmbDiagno", text="Kyste de l'ovaire")
+    album.choose("Form20.CmbCrit1", text="Ovaire")
+    album.choose("Form20.CmbCrit2", text="Profil")
+    album.type("Form20.CmbCrit3", text="À revoir")
+    album.click("Form20.CmdAjouter")
+    assert album.boxes == []
+    [row] = stored(album)
+    assert {k: row[k] for k in row if k != "Numint"} == {
+        "Nom": "D'ALMEIDA", "Prenom": "Inès", "DATEXAM": "05/04/2002", "NOMFICH": "kyste.bmp", "NOMPATH": path,
+        "Typexam": "4", "DIAGNO": "Kyste de l'ovaire", "CRIT1": "Ovaire", "CRIT2": "Profil", "CRIT3": "À revoir",
+        "NUMECHO": None,
+    }
+    assert album.get("Form20.ImgCharge")["picture"] is None
+    assert album.text("Form20.Label5") == "OK Cliché Classé"
+    assert album.get("Form20.Label5")["onscreen"]
+    assert not album.get("Form20.Label18")["onscreen"]
+
+
+def test_the_same_file_is_not_classed_twice(album):
+    path = bitmap(album.folder / "kyste.bmp")
+    for _ in range(2):
+        open_file(album, path)
+        album.click("Form20.CmdAjouter")
+    assert album.said() == [NOT_CLASSED]
+    assert len(stored(album)) == 1
+
+
+def test_a_picture_is_found_by_each_field(album):
+    class_records(album, 1)
+    path = bitmap(album.folder / "kyste.bmp")
+    open_file(album, path)
+    values = {"TxtNom": "D'ALMEIDA", "TxtDate": "12/03/2001", "CmbDiagno": "Kyste", "CmbCrit1": "Ovaire",
+              "CmbCrit2": "Axiale", "CmbCrit3": "À revoir"}
+    for control, value in values.items():
+        album.set("Form20." + control, text=value)
+    album.click("Form20.Option4")
+    album.click("Form20.CmdAjouter")
+    for control, value in [
+        ("TxtRechNom", "almeida"), ("TxtRechDate", "03/2001"), ("CmbRechDiag", "kys"), ("CmbRechCrit1", "ovaire"),
+        ("CmbRechCrit2", "Axiale"), ("CmbRechCrit3", "revoir"),
+    ]:
+        album.set("Form20." + control, text=value)
+        album.click("Form20.Command1")
+        assert found(album) == ["2"], control
+        album.set("Form20." + control, text="")
+    album.click("Form20.Option8")
+    album.click("Form20.Command1")
+    assert found(album) == ["2"]
+    album.click("Form20.Option9")
+    album.click("Form20.Command1")
+    assert found(album) == ["1", "2"]
+    assert album.boxes == []
+    album.set("Form20.TxtRechNom", text="NEMO")
+    album.click("Form20.Command1")
+    assert album.said() == [NOTHING_FOUND]
+    assert not album.get("Form20.CmdAffiche")["onscreen"]
+
+
+def test_twenty_five_results_fill_the_wall_in_three_clicks(album):
+    class_records(album, 25)
+    album.click("Form20.Command1")
+    names = [f"p{i}.bmp" for i in range(1, 26)]
+    album.click("Form20.CmdAffiche")
+    assert wall(album) == names[:20]
+    album.click("Form20.CmdAffiche")
+    assert wall(album) == names[20:]
+    album.click("Form20.CmdAffiche")
+    assert wall(album) == names[:20]
+
+
+def test_a_picture_opens_large_by_three_ways(album):
+    class_records(album, 3)
+    album.click("Form20.Command1")
+    album.click("Form20.CmdAffiche")
+    ways = [
+        lambda: album.dblclick("Form20.Image1(1)"),
+        lambda: album.dblclick("Form20.List4", row=1),
+        lambda: album.click("Form20.ListNom", row=1),
+        lambda: album.key("Form20.ListNom", key="Return"),
+    ]
+    for way in ways:
+        way()
+        assert album.boxes == []
+        assert album.text("Form20.LblFilename") == "p2.bmp"
+        assert album.get("Form20.Image2")["onscreen"]
+        assert album.get("Form20.Image2")["picture"] == {"width": 64, "height": 48}
+        assert not album.get("Form20.Image1(0)")["onscreen"]
+        album.click("Form20.CmdFermer")
+        assert not album.get("Form20.Image2")["onscreen"]
+        assert album.get("Form20.Image1(0)")["onscreen"]
+
+
+def test_a_deleted_file_leaves_its_place_and_then_the_album(album):
+    class_records(album, 3)
+    (album.folder / "VIDEOTEK" / "p2.bmp").unlink()
+    album.click("Form20.Command1")
+    album.click("Form20.CmdAffiche")
+    assert album.boxes == []
+    assert wall(album) == ["p1.bmp", "p3.bmp"]
+    album.click("Form20.ListNom", row=1)
+    assert [(b["kind"], b["title"], b["text"]) for b in album.boxes] == [("question", "Attention", LOST)]
+    assert len(stored(album)) == 3
+    album.answer(**{"with": ["yes"]})
+    album.dblclick("Form20.List4", row=1)
+    assert album.said() == [LOST]
+    assert [row["NOMFICH"] for row in stored(album)] == ["p1.bmp", "p3.bmp"]
+
+
+def test_a_click_in_a_sorted_list_ends_in_the_question(album):
+    class_records(album, 3)
+    album.set("Form20.TxtRechNom", text="MARTIN")
+    album.click("Form20.TriNom")
+    assert album.items("Form20.ListNom") == ["MARTIN  Anne  02/05/2002"] * 3
+    album.answer(**{"with": ["yes"]})
+    album.click("Form20.ListNom", row=2)
+    assert album.said() == [LOST]
+    assert [row["NOMFICH"] for row in stored(album)] == ["p2.bmp", "p3.bmp"]
+
+
+def test_a_name_with_an_apostrophe_breaks_its_search_and_no_other(album):
+    class_records(album, 1)
+    album.click("Form20.Command1")
+    assert found(album) == ["1"]
+    album.set("Form20.TxtRechNom", text="D'ALMEIDA")
+    album.click("Form20.Command1")
+    assert [box["kind"] for box in album.boxes] == ["error"]
+    assert found(album) == []
+    album.set("Form20.TxtRechNom", text="D*ALMEIDA")
+    album.click("Form20.Command1")
+    assert album.said() == [NOTHING_FOUND]
+
+
+def test_a_word_is_added_by_a_double_click_and_removed_by_the_menu(album):
+    album.set("Form20.CmbDiagno", text="Fibrome")
+    album.answer(**{"with": ["yes"]})
+    album.dblclick("Form20.CmbDiagno")
+    assert album.said() == ["Voulez vous vraiment ajouter Fibrome comme critère diagnostique ?"]
+    assert album.boxes[0]["icon"] == "question"
+    assert album.items("Form20.CmbRechDiag") == ["Normal", "Kyste de l'ovaire"]
+    album.close(form="Form20")
+    album.click("Form1.Command6")
+    assert album.items("Form20.CmbRechDiag") == ["Normal", "Kyste de l'ovaire", "Fibrome"]
+    album.choose("Form20.CmbRechDiag", text="Fibrome")
+    album.answer(**{"with": ["yes"]})
+    album.click("Form20.SDiagno")
+    assert album.said() == ["Voulez vous vraiment supprimer Fibrome comme critère diagnostique ?"]
+    assert album.items("Form20.CmbDiagno") == ["Normal", "Kyste de l'ovaire"]
+
+
+def test_the_album_without_a_base_says_so(practice):
+    practice.setting(key="CHEMINS", value="")
+    practice.start()
+    practice.click("Form1.Command6")
+    assert [box["text"][:45] for box in practice.boxes] == ["La base de données 'ECHOTEK.MDB' est introuva"]
+    assert practice.items("Form20.CmbDiagno") == []
+
+
+def put_on_sheet(port, count):
+    for row in range(count):
+        port.click("Form20.ListNom", row=row)
+        port.click("Form20.CmdImpr")
+        assert port.boxes == []
+
+
+def sheet(port):
+    return [port.get(f"Form20.ImgImp({i})")["picture"] is not None for i in range(1, 7)]
+
+
+def test_six_pictures_fill_a_sheet(album):
+    class_records(album, 6)
+    album.click("Form20.Command1")
+    put_on_sheet(album, 6)
+    assert sheet(album) == [True] * 6
+    assert album.focused()["control"] == "Form20.TxtImp"
+    place = album.get("Form20.ImgImp(6)")
+    assert [place[k] for k in ["left", "top", "width", "height"]] == [1800, 3120, 1455, 1095]
+    assert not album.get("Form20.CmdOuvrir")["onscreen"]
+
+
+def test_the_seventh_picture_throws_the_sheet_away(album):
+    class_records(album, 7)
+    album.click("Form20.Command1")
+    put_on_sheet(album, 7)
+    assert sheet(album) == [False] * 6
+    album.click("Form20.CmdFerm")
+    assert not album.get("Form20.TxtImp")["onscreen"]
+    assert album.get("Form20.CmdOuvrir")["onscreen"]
+    assert album.get("Form20.TxtNom")["onscreen"]
+
+
+def test_a_viewing_window_fills_the_search(practice):
+    practice.insert(table="FICHEPATIENT", row={"Numint": 2, "Nom": "DUPONT", "Prenom": "Marie"})
+    practice.insert(table="1TER", row={"Numero": 2, "NUMECHO": 3, "TYPECHO": "1", "DATEXAM": "02/04/2002"})
+    practice.insert(table="GYNECO", row={"Numero": 2, "NUMECHO": 5, "DATEXAM": "03/04/2002"})
+    practice.start()
+    practice.click("Form1.Command1")
+    practice.set("Form4.Text1", text="DUPONT")
+    practice.click("Form4.HlbCptDer")
+    practice.click("Form6.Command3")
+    fields = ["TxtRechNom", "TxtRechDate", "TxtRechNumEcho"]
+    assert [practice.text("Form20." + f) for f in fields] == ["DUPONT", "02/04/2002", "3"]
+    assert practice.items("Form20.ListNom") == []
+    practice.click("Form6.CmdQuitter")
+    practice.set("Form4.Text1", text="DUPONT")
+    practice.click("Form4.Command5")
+    practice.click("Form18.Command1")
+    assert [practice.text("Form20." + f) for f in fields] == ["DUPONT", "03/04/2002", "5"]
