@@ -3,7 +3,10 @@
 #include "base/numbers.h"
 #include "exams/exam_record.h"
 #include "exams/form6.h"
+#include "exams/later_trimesters_reports.h"
+#include "exams/report_head.h"
 #include "exams/settings_file.h"
+#include "reports/riche_t.h"
 
 namespace exams {
 namespace {
@@ -123,6 +126,10 @@ forms::TextBox& Form10::morphology(int fetus) {
     return Txt1T(kMorphologies[static_cast<std::size_t>(fetus)]);
 }
 
+const forms::TextBox& Form10::morphology(int fetus) const {
+    return Txt1T(kMorphologies[static_cast<std::size_t>(fetus)]);
+}
+
 void Form10::wireSteps() {
     Modif.onClick = [this] { desk().show(QStringLiteral("Form11")); };
     CmdModifs.onClick = [this] { Modif.click(); };
@@ -182,9 +189,14 @@ void Form10::adjustFetusButtons() {
     }
 }
 
-// The composer of this report is still to come.
 void Form10::CptRendu2T() {
-    desk().show(QStringLiteral("CptRendu2T"));
+    const ExamLife& life = exams().life();
+    const reports::LaterExam exam = examOnShow(*this, life);
+    reports::RicheT& editor = reports::openEditor(desk(), reports::kLaterTrimestersTitle);
+    const QString introduction = introductionOf(life);
+    reports::type(reports::CptRendu2T(exam, CptrM.checked() ? reports::Detail::Minimum : reports::Detail::Full,
+                                      Intro.checked() ? std::optional(introduction) : std::nullopt),
+                  editor.RichTextBox1);
 }
 
 void Form10::Supprime() {

@@ -63,6 +63,7 @@ public:
 
     /// The morphology of fetus 0, 1 or 2.
     forms::TextBox& morphology(int fetus);
+    const forms::TextBox& morphology(int fetus) const;
 
     /// Types the report of the exam on show into the editor.
     void CptRendu2T();

@@ -7,7 +7,7 @@ namespace qt {
 /// The strip on top of the gynaecology windows, which hold its controls under the same names.
 template <class Window>
 QWidget* gynaecologyStrip(Binder& bind, Window& shown) {
-    ExamStrip strip(bind);
+    ExamStrip strip(bind, ExamStrip::Ground::Window);
     strip.identity(shown.LblNom, shown.LblPrenom, shown.LblNumInt);
     const QString number = QStringLiteral("Echographie N°");
     const QString date = QStringLiteral("Date de l'Examen");

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "biometry/exam_in_view.h"
+#include "exams/exam_life.h"
+#include "exams/form10.h"
+#include "reports/later_trimesters.h"
+
+namespace exams {
+
+/// The exam that the viewing window shows, as its biometry is computed from it, with the patient of the dossier window.
+biometry::Exam measuredExam(const Form10& view, const dossier::Form4& head);
+
+/// The exam that the viewing window shows, as its report tells it, with the head of the dossier window and the
+/// percentile words of its first fetus. Throws what `biometry::page` throws.
+reports::LaterExam examOnShow(const Form10& view, const ExamLife& life);
+
+}  // namespace exams
