@@ -58,8 +58,7 @@ public:
 
 private:
     fakes::World world_;
-    shell::Program program_{
-        {world_.clock, world_.settings, world_.boxes, world_.fileDialogs, world_.help, world_.folder.path()}};
+    shell::Program program_{world_.machine};
 };
 
 void backupOurs(benchmark::State& state) {

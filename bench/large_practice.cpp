@@ -1,5 +1,6 @@
 #include "large_practice.h"
 
+#include <QDate>
 #include <QFile>
 #include <QTemporaryDir>
 #include <functional>
@@ -10,6 +11,10 @@
 
 namespace large_practice {
 namespace {
+
+constexpr int kRubrics = 55;
+constexpr int kIndications = 7;
+constexpr int kUterus = 8;
 
 using store::Field;
 using store::FieldKind;
@@ -46,6 +51,41 @@ void fill(const QString& path, const QString& table, int count, const ValueOf& v
         }
     }
     connection.run("COMMIT");
+}
+
+// The exams of a dossier lie years apart: here the first ones of all dossiers, then the second ones, and so on.
+void fillExams(const QString& path, int count, int ofADossier) {
+    std::mt19937 random(8);
+    const int dossiers = count / ofADossier;
+    fill(path, u"1TER"_qs, count, [=, &random](int record, const Field& field) {
+        const int number = record / dossiers + 1;
+        if (field.kind == FieldKind::Number) {
+            return QByteArray::number(field.name == u"Numero"_qs ? record % dossiers + 1 : number);
+        }
+        if (field.name == u"DATEXAM"_qs) {
+            return dateOfExam(number).toUtf8();
+        }
+        if (field.name == u"TYPECHO"_qs) {
+            return QByteArray(2 * number <= ofADossier ? "1" : "0");
+        }
+        return field.name == u"NBRE"_qs ? QByteArrayLiteral("1") : invented(random, 4).toUtf8();
+    });
+}
+
+void fillResponses(const QString& path) {
+    std::mt19937 random(11);
+    std::vector<int> rubrics;
+    for (int rubric = 1; rubric <= kRubrics; ++rubric) {
+        const bool many = rubric == kIndications || rubric == kUterus;
+        rubrics.insert(rubrics.end(), static_cast<std::size_t>(many ? kManyPhrases : kPhrases), rubric);
+    }
+    fill(path, u"OPTIONS"_qs, static_cast<int>(rubrics.size()), [&](int record, const Field& field) {
+        if (field.kind == FieldKind::Number) {
+            const bool rubric = field.name == u"NUMEROS"_qs;
+            return QByteArray::number(rubric ? rubrics[static_cast<std::size_t>(record)] : record + 1);
+        }
+        return field.name == u"TERMINAIS"_qs ? QByteArrayLiteral("A") : invented(random, 12).toUtf8();
+    });
 }
 
 /// The path of a file of this name with one table filled.
@@ -91,17 +131,18 @@ QString patients(int count) {
                 });
 }
 
-QString exams() {
-    std::mt19937 random(8);
-    // The exams of a dossier lie years apart: here the first ones of all dossiers, then the second ones, and so on.
-    constexpr int kDossiers = kExams / kExamsOfADossier;
-    return made(u"ECHO.MDB"_qs, FileKind::Echo, u"1TER"_qs, kExams, [&random](int record, const Field& field) {
-        if (field.kind == FieldKind::Number) {
-            const bool dossier = field.name == u"Numero"_qs;
-            return QByteArray::number(dossier ? record % kDossiers + 1 : record / kDossiers + 1);
-        }
-        return field.name == u"DATEXAM"_qs ? QByteArrayLiteral("16/04/2002") : invented(random, 4).toUtf8();
-    });
+QString dateOfExam(int number) {
+    return QDate(1990, 4, 16).addDays(qint64{120} * number).toString(u"dd/MM/yyyy"_qs);
+}
+
+QString exams(int count, int ofADossier) {
+    const QString path = place(u"ECHO%1-%2.MDB"_qs.arg(count).arg(ofADossier));
+    if (!QFile::exists(path)) {
+        store::createFile(FileKind::Echo, path);
+        fillExams(path, count, ofADossier);
+        fillResponses(path);
+    }
+    return path;
 }
 
 QString histories() {

@@ -11,14 +11,20 @@ inline constexpr int kPatients = 32767;
 inline constexpr int kExams = 300000;
 inline constexpr int kExamsOfADossier = 10;
 inline constexpr int kPictures = 20000;
+/// The stored responses of a rubric, and those of the indications and of the uterus.
+inline constexpr int kPhrases = 20;
+inline constexpr int kManyPhrases = 500;
 
 /// A place for a file in that folder.
 QString place(const QString& name);
 
 /// The path of NOM.MDB with so many patients.
 QString patients(int count = kPatients);
-/// The path of ECHO.MDB: obstetric exams of 82 fields, in the order in which they were made.
-QString exams();
+/// The path of ECHO.MDB: obstetric exams of 82 fields, in the order in which they were made, and the stored responses.
+/// The first half of each dossier's exams are of the first trimester, the others of the later ones.
+QString exams(int count = kExams, int ofADossier = kExamsOfADossier);
+/// The date of a dossier's exam with this number, from 1.
+QString dateOfExam(int number);
 /// The path of ATCD.MDB: a history for each patient.
 QString histories();
 /// The path of ECHOTEK.MDB.

@@ -13,8 +13,20 @@ struct Line {
     std::optional<double> atMost;
 };
 
+/// A line without a yardstick: a time not to take, in microseconds.
+struct Limit {
+    std::string name;
+    std::string ours;
+    double atMost;
+};
+
 std::vector<Line>& lines() {
     static std::vector<Line> all;
+    return all;
+}
+
+std::vector<Limit>& limits() {
+    static std::vector<Limit> all;
     return all;
 }
 
@@ -37,6 +49,11 @@ public:
                 print(line, medians_.at(line.ours), medians_.at(line.bare));
             }
         }
+        for (const Limit& limit : limits()) {
+            if (medians_.contains(limit.ours)) {
+                print(limit, medians_.at(limit.ours));
+            }
+        }
     }
 
 private:
@@ -47,6 +64,11 @@ private:
         } else {
             std::puts("-");
         }
+    }
+
+    static void print(const Limit& limit, double ours) {
+        std::printf("%-28s %12.2f %12s %8s  %.0f us%s\n", limit.name.c_str(), ours, "-", "-", limit.atMost,
+                    ours <= limit.atMost ? "" : "  MISSED");
     }
 
     std::map<std::string, double> medians_;
@@ -74,6 +96,11 @@ void pair(const std::string& name, Function ours, Function bare, std::optional<d
     for (const int size : sizes) {
         add(name, ours, bare, atMost, size);
     }
+}
+
+void within(const std::string& name, Function ours, double milliseconds) {
+    benchmark::RegisterBenchmark(name.c_str(), ours)->UseRealTime();
+    limits().push_back({name, name + "/real_time", milliseconds * 1000});
 }
 
 int run(int count, char** arguments) {

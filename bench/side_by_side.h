@@ -15,6 +15,9 @@ using Function = void (*)(benchmark::State&);
 void pair(const std::string& name, Function ours, Function bare, std::optional<double> atMost,
           const std::vector<int>& sizes = {});
 
+/// Sets one thing beside a time that it must not take: `milliseconds`.
+void within(const std::string& name, Function ours, double milliseconds);
+
 /// Runs all pairs, each side several times and mixed with the others, and prints the table. Takes the usual arguments.
 int run(int count, char** arguments);
 
