@@ -41,11 +41,11 @@ bool blamesTheFile(const RuntimeError& error) {
     return error.number() != ErrorNumber::PermissionDenied && error.number() != ErrorNumber::RecordLocked;
 }
 
-/// Reads a first row of each table: a table or a field that is missing fails here.
-void touchTables(const Database& database, FileKind kind) {
-    for (const QString& table : store::tableNames(kind)) {
-        (void)database.openRecordset(u"SELECT*FROM "_qs + table).eof();
-    }
+/// "CREATE INDEX "1TER_Numero" ON ..." as a person reads it.
+QString definitionFault(const QString& creation) {
+    const QString name = creation.section(u' ', 2, 2).remove(u'"');
+    const QString what = creation.startsWith(u"CREATE TABLE"_qs) ? u"table"_qs : u"index"_qs;
+    return u"définition absente ou modifiée : %1 « %2 »."_qs.arg(what, name);
 }
 
 QStringList faultsIn(const QString& path, FileKind kind) {
@@ -56,8 +56,11 @@ QStringList faultsIn(const QString& path, FileKind kind) {
     if (const int places = store::damagedPlaces(path); places > 0) {
         return {u"le contenu est endommagé (défauts trouvés : %1)."_qs.arg(places)};
     }
-    touchTables(database, kind);
-    return {};
+    QStringList faults;
+    for (const QString& creation : store::changedDefinitions(path)) {
+        faults << definitionFault(creation);
+    }
+    return faults;
 }
 
 QStringList faultsOf(const QString& path, FileKind kind) {

@@ -14,13 +14,13 @@ struct Finding {
     QStringList faults;
 };
 
-/// Checks the four files by themselves, wherever they are: each is there, is of its kind and version, and is whole.
-/// Changes nothing. Throws PermissionDenied or RecordLocked if a file can't be read now.
+/// Checks the four files by themselves, wherever they are: each is there, is of its kind and version, is whole,
+/// and has its tables and indexes as they were made. Changes nothing. Throws PermissionDenied or RecordLocked if a file
+/// can't be read now.
 std::vector<Finding> checkFiles(const Paths& files);
 
-/// Checks the four files in `folder`: each is there, is of its kind and version, and is whole; every exam and every
-/// history belongs to a patient. Changes nothing. Throws PathNotFound if the folder isn't there, PermissionDenied or
-/// RecordLocked if a file can't be read now.
+/// Checks the four files in `folder` in this way; every exam and every history belongs to a patient. Changes nothing.
+/// Throws PathNotFound if the folder isn't there, PermissionDenied or RecordLocked if a file can't be read now.
 std::vector<Finding> check(const QString& folder);
 
 }  // namespace practice

@@ -1,3 +1,5 @@
+#include <sqlite3.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -46,6 +48,14 @@ void addExam(const QString& folder, FileKind kind, const QString& table, const Q
     rows.addNew();
     rows.set(field, dossier);
     rows.update();
+}
+
+/// What another program does to a file.
+void runOutside(const QString& path, const char* sql) {
+    sqlite3* database = nullptr;
+    sqlite3_open(path.toUtf8().constData(), &database);
+    EXPECT_EQ(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(database);
+    sqlite3_close(database);
 }
 
 /// A practice whose folder has an accent and an apostrophe in its name.
@@ -190,6 +200,27 @@ TEST_F(CommandLine, TellsDamagedContent) {
     content.replace(content.size() - 4096, 4096, QByteArray(4096, '\x7f'));
     writeBytes(file(FileKind::Echo), content);
     expectFault(u"ECHO.MDB : le contenu est endommagé"_qs);
+}
+
+TEST_F(CommandLine, TellsAMissingTable) {
+    runOutside(file(FileKind::Echotek), "DROP TABLE CLEFS");
+    expectFault(u"ECHOTEK.MDB : définition absente ou modifiée : table « CLEFS »."_qs);
+}
+
+TEST_F(CommandLine, TellsAMissingIndex) {
+    runOutside(file(FileKind::Nom), "DROP INDEX FICHEPATIENT_Nom_Prenom");
+    expectFault(u"NOM.MDB : définition absente ou modifiée : index « FICHEPATIENT_Nom_Prenom »."_qs);
+}
+
+TEST_F(CommandLine, TellsAnIndexThatSortsByOtherFields) {
+    runOutside(file(FileKind::Echo),
+               "DROP INDEX \"1TER_Numero_NUMECHO\"; CREATE INDEX \"1TER_Numero_NUMECHO\" ON \"1TER\"(\"Numero\")");
+    expectFault(u"ECHO.MDB : définition absente ou modifiée : index « 1TER_Numero_NUMECHO »."_qs);
+}
+
+TEST_F(CommandLine, TellsATableWithAFieldMore) {
+    runOutside(file(FileKind::Atcd), "ALTER TABLE FICHEATCD ADD COLUMN AUTRE TEXT");
+    expectFault(u"ATCD.MDB : définition absente ou modifiée : table « FICHEATCD »."_qs);
 }
 
 TEST_F(CommandLine, CountsTheRecordsWithoutAPatient) {
