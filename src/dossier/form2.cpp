@@ -2,7 +2,7 @@
 
 #include "base/numbers.h"
 #include "dossier/form4.h"
-#include "dossier/key_filters.h"
+#include "forms/key_filters.h"
 
 namespace dossier {
 namespace {
@@ -13,8 +13,8 @@ const QString kNumber = QStringLiteral("Numint");
 
 Form2::Form2(ports::Surroundings& around, store::State& state)
     : Form(around.desk, kName.toString(), QStringLiteral("Nouveau Dossier")), around_(around), state_(state) {
-    sheet.TxtAssure.onKey = digitsOnly;
-    sheet.TxtDivers4.onKey = digitsOnly;
+    sheet.TxtAssure.onKey = forms::digitsOnly;
+    sheet.TxtDivers4.onKey = forms::digitsOnly;
     CmdEnreg.onClick = [this] { onCmdEnregClick(); };
     CmdAnule.onClick = [this] { close(); };
 }

@@ -6,9 +6,9 @@
 #include "dossier/deletion.h"
 #include "dossier/form2.h"
 #include "dossier/form3.h"
-#include "dossier/key_filters.h"
 #include "dossier/paths.h"
 #include "dossier/patient_lines.h"
+#include "forms/key_filters.h"
 
 namespace dossier {
 namespace {
@@ -24,7 +24,7 @@ void capitalsWithoutApostrophe(KeyPress& key) {
     if (key.character() == u'\'') {
         key.swallow();
     } else {
-        capitals(key);
+        forms::capitals(key);
     }
 }
 

@@ -2,7 +2,7 @@
 
 #include "base/dates.h"
 #include "base/numbers.h"
-#include "dossier/key_filters.h"
+#include "forms/key_filters.h"
 #include "store/blank_rule.h"
 
 namespace dossier {
@@ -61,7 +61,7 @@ std::span<const SheetField> sheetFields() {
 
 PatientSheet::PatientSheet(forms::Form& form) : form_(form) {
     Frame2.holds(OptFem, OptMasc);
-    TxtNom.onKey = capitals;
+    TxtNom.onKey = forms::capitals;
 }
 
 forms::TextControl& PatientSheet::controlOf(const SheetField& field) {

@@ -6,12 +6,6 @@ namespace exams {
 
 namespace fields = first_trimester;
 
-void digitsOnly(forms::KeyPress& key) {
-    if (key.character() < u'0' || key.character() > u'9') {
-        key.swallow();
-    }
-}
-
 FirstTrimesterSheet::FirstTrimesterSheet(forms::Form& form, ObstetricExams& exams)
     : FetusPanels(form, QStringLiteral("Embryon"), 2),
       LblNom(form, "LblNom"),

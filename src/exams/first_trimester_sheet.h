@@ -4,6 +4,7 @@
 #include "exams/first_trimester_fields.h"
 #include "exams/obstetric_exams.h"
 #include "forms/controls.h"
+#include "forms/key_filters.h"
 #include "responses/offer_panel.h"
 
 namespace exams {
@@ -34,7 +35,6 @@ private:
     ExamLife& life_;
 };
 
-/// A key filter: digits alone.
-void digitsOnly(forms::KeyPress& key);
+using forms::digitsOnly;
 
 }  // namespace exams

@@ -44,7 +44,9 @@ void Form5::wireButtons() {
         sheet.buttons()[static_cast<std::size_t>(i)]->onClick = [this, i] { sheet.paintFetus(i); };
     }
     Command2.onClick = [this] { onDateFromLength(); };
-    CmdPhotos.onClick = [this] { desk().show(QStringLiteral("Form19")); };
+    CmdPhotos.onClick = [this] {
+        exams_.life().showWith(QStringLiteral("Form19"), {{QStringLiteral("TxtNumEcho"), sheet.TxtNumEcho.text()}});
+    };
     CmdEnregis.onClick = [this] { save(); };
     CmdQuitter.onClick = [this] {
         unload();
@@ -62,12 +64,14 @@ void Form5::AFFCIVILITES() {
 
 void Form5::openNew() {
     sheet.Frame5.hide();
+    // A window that stayed loaded holds the last exam written: were the base out of reach, it would stay on screen.
+    AFFCIVILITES();
+    clear();
+    sheet.TxtNumEcho.setText({});
     show();
     exams_.life().openBase();
     sheet.readDevice();
-    AFFCIVILITES();
     const QString number = exams_.nextNumber();
-    clear();
     // Emptying the number of embryos may have brought the panel back.
     sheet.Frame5.hide();
     sheet.TxtNumEcho.setText(number);

@@ -18,12 +18,14 @@ Form16::Form16(GynaecologyExams& exams)
 }
 
 void Form16::openNew() {
+    // A window that stayed loaded holds the last exam written: were the base out of reach, it would stay on screen.
+    sheet.copyIdentity();
+    clear();
+    sheet.TxtNumEcho.setText({});
     show();
     exams_.life().openBase();
     sheet.readDevice();
-    sheet.copyIdentity();
     const QString number = exams_.nextNumber();
-    clear();
     sheet.TxtNumEcho.setText(number);
     sheet.TxtDate.setText(base::shortDate(exams_.life().around().clock.today()));
     sheet.showPelvic();

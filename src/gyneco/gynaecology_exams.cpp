@@ -13,6 +13,8 @@ void GynaecologyExams::openNew() {
 }
 
 void GynaecologyExams::display() {
+    // Fails where there is no record, before anything is shown.
+    (void)life_.state().Rs.field(QStringLiteral("NUMECHO"));
     life_.desk().show(Form18::kName.toString());
     life_.desk().at<Form18>().display();
 }

@@ -7,6 +7,8 @@
 #include <QWheelEvent>
 #include <utility>
 
+#include "forms/key_filters.h"
+
 namespace qt {
 
 KeyFilter::KeyFilter(QWidget* editor, Slots slots) : QObject(editor), editor_(editor), slots_(std::move(slots)) {
@@ -38,15 +40,27 @@ QString KeyFilter::filtered(const QString& text) const {
     return result;
 }
 
+bool KeyFilter::swallowsBackspace() const {
+    forms::KeyPress key(forms::kBackspace);
+    slots_.typed(key);
+    return key.swallowed();
+}
+
 bool KeyFilter::filterKey(QKeyEvent* event) {
     const bool bare = !(event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier));
     if (bare && (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right)) {
         slots_.pressed(event->key() == Qt::Key_Left ? forms::Key::Left : forms::Key::Right);
         return false;
     }
-    const QString text = event->text();
     const bool command = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    if (text.isEmpty() || !text.at(0).isPrint() || command || !slots_.filters()) {
+    if (command || !slots_.filters()) {
+        return false;
+    }
+    if (event->key() == Qt::Key_Backspace) {
+        return swallowsBackspace();
+    }
+    const QString text = event->text();
+    if (text.isEmpty() || !text.at(0).isPrint()) {
         return false;
     }
     const QString result = filtered(text);

@@ -12,8 +12,8 @@ class QWidget;
 
 namespace qt {
 
-/// Stands between the keyboard and an editor: each typed character, also one that an input method commits, goes through
-/// the control's key filter first. Pasted text doesn't pass here.
+/// Stands between the keyboard and an editor: each typed character, Backspace and what an input method commits among
+/// them, goes through the control's key filter first. Pasted text doesn't pass here.
 class KeyFilter final : public QObject {
 public:
     struct Slots {
@@ -31,6 +31,7 @@ protected:
 private:
     bool filterKey(QKeyEvent* event);
     bool filterInput(QInputMethodEvent* event);
+    bool swallowsBackspace() const;
     QString filtered(const QString& text) const;
 
     QWidget* editor_;

@@ -79,9 +79,11 @@ protected:
                 box.onKey(key);
             }
         });
-        if (!key.swallowed()) {
-            write(box, box.text() + key.character());
+        if (key.swallowed()) {
+            return;
         }
+        const bool back = key.character() == forms::kBackspace;
+        write(box, back ? box.text().chopped(std::min<qsizetype>(1, box.text().size())) : box.text() + key.character());
     }
     bool shown(const QString& form) {
         const forms::Form* found = world_.desk.peek(form);
@@ -118,6 +120,16 @@ protected:
     class Bare final : public forms::Form {
     public:
         Bare(forms::Desk& desk, const QString& name) : Form(desk, name, name) {}
+    };
+
+    /// What the windows of pictures are handed.
+    class PictureWindow final : public forms::Form {
+    public:
+        PictureWindow(forms::Desk& desk, const QString& name) : Form(desk, name, name) {}
+        forms::TextBox TxtNumEcho{*this, "TxtNumEcho"};
+        forms::TextBox TxtRechNom{*this, "TxtRechNom"};
+        forms::TextBox TxtRechDate{*this, "TxtRechDate"};
+        forms::TextBox TxtRechNumEcho{*this, "TxtRechNumEcho"};
     };
 
     fakes::World world_;

@@ -1,5 +1,7 @@
 #include "exams/form5.h"
 
+#include <QFile>
+
 #include "exams/exam_windows.h"
 
 namespace exams {
@@ -201,6 +203,18 @@ TEST_F(WritingWindow, TheTwoCountsHoldOneDigit) {
         EXPECT_EQ(box.text(), "2");
         type(box, u'x');
         EXPECT_EQ(box.text(), "");
+        write(box, "12");
+        type(box, forms::kBackspace);
+        EXPECT_EQ(box.text(), "");
+    }
+}
+
+TEST_F(WritingWindow, BackspaceCorrectsTheOtherNumbers) {
+    Form5& form = newExam();
+    for (forms::TextBox* box : {&form.sheet.Txt1Ter(18), &form.sheet.TxtPds, &form.sheet.TxtTaille}) {
+        write(*box, "60");
+        type(*box, forms::kBackspace);
+        EXPECT_EQ(box->text(), "6");
     }
 }
 
@@ -451,6 +465,31 @@ TEST_F(WritingWindow, ItsUnloadingBringsTheCursorBackAndHidesTheDossiersSteps) {
     EXPECT_FALSE(desk().at<dossier::Form4>().Command3.visible());
     EXPECT_FALSE(desk().at<dossier::Form4>().Command4.visible());
     EXPECT_TRUE(view().CmdRec.visible());
+}
+
+TEST_F(WritingWindow, AnOpeningThatFailsShowsNothingOfThePatientBefore) {
+    store(14, "ORIVANNE");
+    Form5& form = newExam("DUPONT");
+    form.sheet.Txt1Ter(26).setText("Conclusion de Marie");
+    form.sheet.TxtNumEcho.setText("7");
+    form.hide();
+    ASSERT_TRUE(QFile::remove(fakes::pathOf(world_, store::FileKind::Echo)));
+    press(dossierOf("MARTIN").Cmd1Ter);
+    EXPECT_EQ(world_.boxes.reported.size(), 1);
+    EXPECT_EQ(form.sheet.LblNom.text(), "MARTIN");
+    EXPECT_EQ(form.sheet.LblPrenom.text(), "Anne");
+    EXPECT_EQ(form.sheet.LblNumInt.text(), "3");
+    EXPECT_EQ(form.sheet.Txt1Ter(26).text(), "");
+    EXPECT_EQ(form.sheet.TxtNumEcho.text(), "");
+}
+
+TEST_F(WritingWindow, HandsItsNumberToTheWindowOfPictures) {
+    desk().add("Form19", [this] { return std::make_unique<PictureWindow>(desk(), "Form19"); });
+    Form5& form = newExam();
+    form.sheet.TxtNumEcho.setText("7");
+    press(form.CmdPhotos);
+    EXPECT_TRUE(shown("Form19"));
+    EXPECT_EQ(static_cast<PictureWindow&>(desk().at("Form19")).TxtNumEcho.text(), "7");
 }
 
 TEST_F(WritingWindow, NeedsAnOpenDossier) {

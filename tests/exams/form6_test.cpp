@@ -296,6 +296,17 @@ TEST_F(ViewingWindow, OpensANewExamOfEitherFamily) {
     EXPECT_TRUE(shown("Form6"));
 }
 
+TEST_F(ViewingWindow, HandsThePatientAndTheExamToTheAlbum) {
+    desk().add("Form20", [this] { return std::make_unique<PictureWindow>(desk(), "Form20"); });
+    threeExams();
+    press(viewLast().Command3);
+    EXPECT_TRUE(shown("Form20"));
+    const auto& album = static_cast<PictureWindow&>(desk().at("Form20"));
+    EXPECT_EQ(album.TxtRechNom.text(), "DUPONT");
+    EXPECT_EQ(album.TxtRechDate.text(), "12/03/2002");
+    EXPECT_EQ(album.TxtRechNumEcho.text(), "3");
+}
+
 TEST_F(ViewingWindow, OpensTheHelpBesideTheProgram) {
     threeExams();
     press(viewLast().Aide);

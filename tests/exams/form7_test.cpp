@@ -179,6 +179,17 @@ TEST_F(CorrectionWindow, ALoweredNumberKeepsTheOtherEmbryosAndHidesThePanel) {
     EXPECT_FALSE(view().Frame5.visible());
 }
 
+TEST_F(CorrectionWindow, AnExamThatIsNoLongerOfSeveralShowsTheFirstEmbryoInTheView) {
+    viewLast();
+    press(view().CmdRec);
+    press(view().CmdJ3);
+    write(correct().sheet.Txt1Ter(15), "1");
+    save(true);
+    EXPECT_FALSE(view().Frame5.visible());
+    EXPECT_TRUE(view().FrameJ1.visible() && !view().FrameJ2.visible() && !view().FrameJ3.visible());
+    EXPECT_TRUE(view().Frame12.visible());
+}
+
 TEST_F(CorrectionWindow, TheRefillShowsThePanelFromTwoOnAndNeverForZero) {
     Form7& form = openOnSecond();
     write(form.sheet.Txt1Ter(15), "2");

@@ -1,5 +1,7 @@
 #include "gyneco/form16.h"
 
+#include <QFile>
+
 #include "gyneco/gynaecology_windows.h"
 
 namespace gyneco {
@@ -24,6 +26,19 @@ TEST_F(GynaecologyWriting, OpensEmptyOnTheFirstExamOfADossier) {
     for (int i = 1; i <= 36; ++i) {
         EXPECT_EQ(form.sheet.TxtGyneco(i).text(), "") << i;
     }
+}
+
+TEST_F(GynaecologyWriting, AnOpeningThatFailsShowsNothingOfThePatientBefore) {
+    Form16& form = newExam("DUPONT");
+    form.sheet.TxtGyneco(21).setText("Conclusion de Marie");
+    form.sheet.TxtNumEcho.setText("7");
+    form.hide();
+    ASSERT_TRUE(QFile::remove(fakes::pathOf(world_, store::FileKind::Echo)));
+    press(dossierOf("MARTIN").CmdGyneco);
+    EXPECT_EQ(world_.boxes.reported.size(), 1);
+    EXPECT_EQ(form.sheet.LblNom.text(), "MARTIN");
+    EXPECT_EQ(form.sheet.TxtGyneco(21).text(), "");
+    EXPECT_EQ(form.sheet.TxtNumEcho.text(), "");
 }
 
 TEST_F(GynaecologyWriting, NeedsAnOpenDossier) {

@@ -217,6 +217,25 @@ TEST_F(BinderTest, AKeyFilterReplacesAndSwallows) {
     EXPECT_EQ(form_->Text1.text(), "DÀ");
 }
 
+TEST_F(BinderTest, BackspacePassesTheKeyFilter) {
+    form_->Text1.setText("12");
+    line_->setFocus();
+    bool swallows = true;
+    QList<ushort> seen;
+    form_->Text1.onKey = [&](forms::KeyPress& key) {
+        seen << key.character().unicode();
+        if (swallows) {
+            key.swallow();
+        }
+    };
+    QTest::keyClick(line_, Qt::Key_Backspace);
+    EXPECT_EQ(form_->Text1.text(), "12");
+    swallows = false;
+    QTest::keyClick(line_, Qt::Key_Backspace);
+    EXPECT_EQ(form_->Text1.text(), "1");
+    EXPECT_EQ(seen, QList<ushort>({8, 8}));
+}
+
 TEST_F(BinderTest, AKeyFilterSeesWhatAnInputMethodCommits) {
     form_->Text1.onKey = [](forms::KeyPress& key) {
         if (!key.character().isDigit()) {
