@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QListView>
+#include <QLoggingCategory>
 #include <algorithm>
 #include <array>
 #include <map>
@@ -183,7 +184,9 @@ void focusOnManyPhrases(benchmark::State& state) {
 
 int main(int count, char** arguments) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(count, arguments);
+    // The platform without a screen says at every step what it can't do.
+    QLoggingCategory::setFilterRules(u"default.warning=false"_qs);
+    QApplication application(count, arguments);
     qt::theme::apply(application);
     const std::vector<int> sizes{kFewExams, kManyExams};
     side_by_side::pair("new exam, 1st trim.", newExamOurs<kFirstTrimester>, newExamBare, 3, sizes);

@@ -15,6 +15,10 @@ namespace {
 constexpr int kRubrics = 55;
 constexpr int kIndications = 7;
 constexpr int kUterus = 8;
+constexpr int kDevice = 14;
+constexpr int kDeviceDate = 15;
+constexpr int kLetterhead = 19;
+constexpr int kLetterheadEnd = 23;
 
 using store::Field;
 using store::FieldKind;
@@ -72,12 +76,20 @@ void fillExams(const QString& path, int count, int ofADossier) {
     });
 }
 
+/// How many stored responses a rubric has: the letterhead and the device are one line each.
+int phrasesOf(int rubric) {
+    if (rubric == kIndications || rubric == kUterus) {
+        return kManyPhrases;
+    }
+    return rubric == kDevice || rubric == kDeviceDate || (rubric >= kLetterhead && rubric <= kLetterheadEnd) ? 1
+                                                                                                             : kPhrases;
+}
+
 void fillResponses(const QString& path) {
     std::mt19937 random(11);
     std::vector<int> rubrics;
     for (int rubric = 1; rubric <= kRubrics; ++rubric) {
-        const bool many = rubric == kIndications || rubric == kUterus;
-        rubrics.insert(rubrics.end(), static_cast<std::size_t>(many ? kManyPhrases : kPhrases), rubric);
+        rubrics.insert(rubrics.end(), static_cast<std::size_t>(phrasesOf(rubric)), rubric);
     }
     fill(path, u"OPTIONS"_qs, static_cast<int>(rubrics.size()), [&](int record, const Field& field) {
         if (field.kind == FieldKind::Number) {

@@ -472,7 +472,7 @@ TEST_F(WritingWindow, AnOpeningThatFailsShowsNothingOfThePatientBefore) {
     Form5& form = newExam("DUPONT");
     form.sheet.Txt1Ter(26).setText("Conclusion de Marie");
     form.sheet.TxtNumEcho.setText("7");
-    form.hide();
+    desk().hide("Form5");
     ASSERT_TRUE(QFile::remove(fakes::pathOf(world_, store::FileKind::Echo)));
     press(dossierOf("MARTIN").Cmd1Ter);
     EXPECT_EQ(world_.boxes.reported.size(), 1);

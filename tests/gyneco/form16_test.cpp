@@ -32,7 +32,7 @@ TEST_F(GynaecologyWriting, AnOpeningThatFailsShowsNothingOfThePatientBefore) {
     Form16& form = newExam("DUPONT");
     form.sheet.TxtGyneco(21).setText("Conclusion de Marie");
     form.sheet.TxtNumEcho.setText("7");
-    form.hide();
+    desk().hide("Form16");
     ASSERT_TRUE(QFile::remove(fakes::pathOf(world_, store::FileKind::Echo)));
     press(dossierOf("MARTIN").CmdGyneco);
     EXPECT_EQ(world_.boxes.reported.size(), 1);
