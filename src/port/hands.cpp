@@ -44,8 +44,8 @@ bool onScreen(const Target& target) {
 }
 
 void typeCharacter(QWidget* widget, QChar c) {
-    if (c == u'\n') {
-        QTest::keyClick(widget, Qt::Key_Return);
+    if (c == u'\n' || c == u'\t') {
+        QTest::keyClick(widget, c == u'\n' ? Qt::Key_Return : Qt::Key_Tab);
         return;
     }
     const int code = c.toUpper().unicode();
@@ -149,6 +149,18 @@ void reach(const Target& target) {
     QApplication::setActiveWindow(target.window);
 }
 
+namespace {
+
+// A menu entry is chosen, and nothing else.
+void reachWidget(const Target& target) {
+    reach(target);
+    if (!target.widget) {
+        throw PortError{QStringLiteral("%1 is no place for the mouse").arg(target.control->label())};
+    }
+}
+
+}  // namespace
+
 void focus(const Target& target) {
     reach(target);
     if (!target.widget || target.widget->focusPolicy() == Qt::NoFocus) {
@@ -225,7 +237,7 @@ void click(const Target& target, const QJsonObject& request) {
 }
 
 void doubleClick(const Target& target, const QJsonObject& request) {
-    reach(target);
+    reachWidget(target);
     auto* view = qobject_cast<QListView*>(target.widget);
     const QPoint at = view ? bringIntoView(view, rowOf(target, request)) : clickPoint(target);
     QWidget* widget = mouseTaker(target);
@@ -236,7 +248,7 @@ void doubleClick(const Target& target, const QJsonObject& request) {
 }
 
 void rightClick(const Target& target) {
-    reach(target);
+    reachWidget(target);
     QTest::mouseClick(mouseTaker(target), Qt::RightButton);
 }
 
