@@ -214,7 +214,16 @@ void key(const Target& target, const QString& keys) {
     if (sequence.isEmpty() || sequence[0].key() == Qt::Key_unknown) {
         throw PortError{QStringLiteral("unknown key: %1").arg(keys)};
     }
-    QTest::keyClick(keyTaker(target), sequence[0].key(), sequence[0].keyboardModifiers());
+    const QKeyCombination pressed = sequence[0];
+    const bool command = pressed.keyboardModifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (pressed.key() < Qt::Key_Escape && !command) {
+        const QChar letter(static_cast<ushort>(pressed.key()));
+        const bool capital = pressed.keyboardModifiers() & Qt::ShiftModifier;
+        QTest::sendKeyEvent(QTest::Click, keyTaker(target), pressed.key(), capital ? letter : letter.toLower(),
+                            pressed.keyboardModifiers());
+    } else {
+        QTest::keyClick(keyTaker(target), pressed.key(), pressed.keyboardModifiers());
+    }
 }
 
 void click(const Target& target, const QJsonObject& request) {

@@ -1,9 +1,13 @@
 #include "port/server.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QJsonArray>
+#include <QTest>
+#include <algorithm>
 
 #include "port/records.h"
 #include "practice/practice.h"
@@ -29,8 +33,22 @@ ControlName parse(const QString& text) {
     return name;
 }
 
+// A button that is pressed by its letter stays down for a moment before it acts.
+bool someButtonIsDown() {
+    return std::ranges::any_of(QApplication::allWidgets(), [](const QWidget* widget) {
+        const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        return button && button->isDown();
+    });
+}
+
 void untilIdle() {
     constexpr int kRounds = 4;
+    constexpr int kPatience = 1000;  // milliseconds, as the pause
+    constexpr int kPause = 5;
+    QElapsedTimer timer;
+    for (timer.start(); someButtonIsDown() && timer.elapsed() < kPatience;) {
+        QTest::qWait(kPause);
+    }
     for (int i = 0; i < kRounds; ++i) {
         QApplication::processEvents();
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
