@@ -41,6 +41,9 @@ struct Family {
 
 constexpr Family kFirstTrimester{&dossier::Form4::Cmd1Ter, u"Form5", u"Form6", 1, kOfADossier / 2, u"Txt1Ter", {7, 8}};
 
+constexpr Family kLaterTrimesters{
+    &dossier::Form4::Cmd2Ter, u"Form8", u"Form10", kOfADossier / 2 + 1, kOfADossier, u"Txt2T", {7, 8}};
+
 Workstation& stationOf(const benchmark::State& state) {
     static std::map<qint64, std::unique_ptr<Workstation>> all;
     std::unique_ptr<Workstation>& station = all[state.range(0)];
@@ -191,6 +194,8 @@ int main(int count, char** arguments) {
     const std::vector<int> sizes{kFewExams, kManyExams};
     side_by_side::pair("new exam, 1st trim.", newExamOurs<kFirstTrimester>, newExamBare, 3, sizes);
     side_by_side::pair("exam shown, 1st trim.", displayOurs<kFirstTrimester>, displayBare<kFirstTrimester>, 3, sizes);
+    side_by_side::pair("exam shown, later trim.", displayOurs<kLaterTrimesters>, displayBare<kLaterTrimesters>, 3,
+                       sizes);
     side_by_side::within("500 phrases, 1st trim.", focusOnManyPhrases<kFirstTrimester>, kFrame);
     return side_by_side::run(count, arguments);
 }
