@@ -172,6 +172,7 @@ TEST_F(QueriesInUse, OnObstetricExams) {
          {one, u"NUMECHO=12"_qs, u"12"_qs, u"12"_qs, kOneExamIndex},
          {past, u"DATEXAM='02/05/2002'"_qs, u"2"_qs, u"12"_qs, kExamIndex},
          {past, u"NUMERO=5"_qs, u"1"_qs, u"12"_qs, kExamIndex},
+         {past, u"NUMECHO=12"_qs, u"12"_qs, u"12"_qs, kOneExamIndex},
          {u"SELECT*FROM 1TER WHERE NUMERO=7 ORDER BY NUMECHO"_qs, u"NUMERO=7"_qs, QString(), QString(), kExamIndex},
          {u"SELECT*FROM 1TER WHERE NUMERO=5"_qs, u"NUMERO=5"_qs, u"2"_qs, u"12"_qs, kExamIndex}});
 }
@@ -199,7 +200,8 @@ TEST_F(QueriesInUse, OnGynaecologicalExams) {
                  {one, u"NUMECHO=2"_qs, u"2"_qs, u"2"_qs, oneIndex},
                  {oneInOrder, u"NUMECHO=2"_qs, u"2"_qs, u"2"_qs, oneIndex},
                  {past, u"DATEXAM='02/05/2002'"_qs, u"1"_qs, u"2"_qs, kGynaecologyIndex},
-                 {past, u"NUMERO=5"_qs, u"1"_qs, u"2"_qs, kGynaecologyIndex}});
+                 {past, u"NUMERO=5"_qs, u"1"_qs, u"2"_qs, kGynaecologyIndex},
+                 {u"SELECT*FROM GYNECO WHERE NUMERO =5"_qs, u"NUMERO=5"_qs, u"2"_qs, u"1"_qs, kGynaecologyIndex}});
 }
 
 TEST_F(QueriesInUse, OnStoredResponses) {
@@ -268,6 +270,7 @@ TEST_F(QueriesInUse, OnTheAlbum) {
                 {byDate, u"3 1 2"_qs, scan},
                 {u"SELECT*FROM ECHOS WHERE NOM LIKE '*ABEL*'"_qs, u"2 3 4"_qs, scan},
                 {u"SELECT*FROM ECHOS WHERE NOM LIKE '**' ORDER BY NOM"_qs, u"2 3 4 1"_qs, scan},
+                {u"SELECT*FROM ECHOS WHERE DIAGNO LIKE '*RÉTRÉC*'"_qs, u"1 2"_qs, scan},
                 {u"SELECT*FROM ECHOS WHERE DIAGNO LIKE '*RÉTRÉC*' ORDER BY DATEXAM"_qs, u"1 2"_qs, scan},
                 {ofNumber, u"2"_qs, scan},
                 {ofPath, u"2"_qs, scan},
