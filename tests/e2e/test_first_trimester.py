@@ -242,3 +242,64 @@ def test_an_exam_is_written_by_keyboard_alone(dossier):
     port.key(field(7), key="Ctrl+Return")
     assert port.text(field(7)) == "un"
     assert port.focused()["control"] == field(8)
+
+
+def test_a_correction_differs_from_writing_row_by_row(dossier):
+    port = dossier
+    port.click("Form4.Cmd1Ter")
+    port.set("Form5.TxtCa1", text="55")
+    port.type(field(15), text="3")
+    save(port)
+    port.click("Form6.CmdModifs")
+    for absent in ["TxtCa1", "TxtCa2", "TxtCa3", "Command2", "CmdPhotos", "TxtNumFoet"]:
+        with pytest.raises(PortError, match="no control"):
+            port.get("Form7." + absent)
+    for index in [11, 15, 18]:
+        port.set(f"Form7.Txt1Ter({index})", text="")
+        port.type(f"Form7.Txt1Ter({index})", text="1x")
+        assert port.text(f"Form7.Txt1Ter({index})") == "1x"
+    port.set("Form7.Txt1Ter(15)", text="4")
+    assert port.said() == []
+    before = port.get("Form7.Frame5").get("back")
+    port.click("Form7.CmdJ2")
+    assert port.get("Form7.Frame5").get("back") == before
+    assert port.get("Form7.Txt1Ter(29)")["onscreen"]
+    for index, date in [(2, "01/03/2002"), (3, "02/03/2002"), (4, "03/03/2002")]:
+        port.set(f"Form7.Txt1Ter({index})", text=date)
+    assert [port.text(f"Form7.Txt1Ter({index})") for index in [2, 3, 4]] == ["01/03/2002", "02/03/2002", "03/03/2002"]
+    assert port.text("Form7.LblAgeGesta") == ""
+    port.answer(**{"with": ["yes"]})
+    port.click("Form7.CmdModifs")
+    (row,) = exams(port)
+    assert (row["NBRE"], row["Ca"], row["AGESTA"], row["DG"]) == ("4", "55", "", "02/03/2002")
+
+
+def test_a_store_error_at_saving_keeps_what_was_typed(dossier):
+    port = dossier
+    port.click("Form4.Cmd1Ter")
+    port.set(field(26), text="Grossesse évolutive.")
+    port.type(field(15), text="1")
+    base = port.folder / "ECHO.MDB"
+    base.rename(port.folder / "ailleurs.mdb")
+    save(port)
+    assert [box["kind"] for box in port.boxes] == ["question", "error"]
+    assert "3024" in port.said()[-1]
+    assert "Form5" in port.shown()
+    assert port.text(field(26)) == "Grossesse évolutive."
+    (port.folder / "ailleurs.mdb").rename(base)
+    save(port)
+    assert port.said()[-1] == "Enregistré"
+    assert exams(port)[0]["CONCLU1"] == "Grossesse évolutive."
+
+
+def test_a_corrected_exam_of_one_embryo_shows_it(dossier):
+    port = dossier
+    write_exam(port, embryos="3", f18="60")
+    port.click("Form6.CmdJ3")
+    port.click("Form6.CmdModifs")
+    port.set("Form7.Txt1Ter(15)", text="1")
+    port.answer(**{"with": ["yes"]})
+    port.click("Form7.CmdModifs")
+    assert not port.get("Form6.Frame5")["onscreen"]
+    assert port.get("Form6.LblLCC(0)")["onscreen"]
+    assert port.get("Form6.CmdRec")["onscreen"]
