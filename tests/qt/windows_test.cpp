@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
@@ -8,6 +10,9 @@
 #include <QListView>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTest>
+#include <QWheelEvent>
+#include <algorithm>
 
 #include "dossier/form4.h"
 #include "fakes/world.h"
@@ -132,6 +137,120 @@ TEST_F(AllWindows, LetTheKeyboardReachEachFieldAndButton) {
             EXPECT_TRUE(widget->focusPolicy() & Qt::TabFocus) << name;
         }
     });
+}
+
+/// The place of a widget in its window; one that a scroll area hides stands at the edge behind which it is.
+QRect placeOf(const QWidget* widget, const QWidget* window) {
+    QRect place(widget->mapTo(window, QPoint(0, 0)), widget->size());
+    for (const QWidget* above = widget->parentWidget(); above && above != window; above = above->parentWidget()) {
+        if (const auto* area = qobject_cast<const QAbstractScrollArea*>(above)) {
+            const QRect view(area->viewport()->mapTo(window, QPoint(0, 0)), area->viewport()->size());
+            place.moveTop(std::clamp(place.top(), view.top(), view.bottom()));
+        }
+    }
+    return place;
+}
+
+/// Reading goes to the right or down; a column to the right starts at its top again.
+bool readsOn(const QRect& from, const QRect& to) {
+    const bool up = to.bottom() < from.top();
+    const bool left = to.right() < from.left();
+    return !(up && to.left() < from.right()) && !(left && to.top() < from.top());
+}
+
+std::vector<QWidget*> tabChain(QWidget* window) {
+    std::vector<QWidget*> chain;
+    QWidget* widget = window;
+    do {
+        if (widget != window && widget->isVisible() && widget->isEnabled() && !widget->focusProxy() &&
+            (widget->focusPolicy() & Qt::TabFocus) && widget->window() == window) {
+            chain.push_back(widget);
+        }
+        widget = widget->nextInFocusChain();
+    } while (widget != window);
+    return chain;
+}
+
+TEST_F(AllWindows, LetTabFollowTheReadingOrder) {
+    for (forms::Form* form : program_.desk().loaded()) {
+        FormWindow* window = stage_.windowOf(*form);
+        window->resize(kSmallScreen);
+        window->show();
+        QApplication::processEvents();
+        const std::vector<QWidget*> chain = tabChain(window);
+        for (std::size_t i = 1; i < chain.size(); ++i) {
+            EXPECT_TRUE(readsOn(placeOf(chain[i - 1], window), placeOf(chain[i], window)))
+                << form->name().toStdString() << ": from " << chain[i - 1]->objectName().toStdString() << " to "
+                << chain[i]->objectName().toStdString();
+        }
+    }
+}
+
+TEST_F(AllWindows, StopTabAtNothingWithoutAName) {
+    for (forms::Form* form : program_.desk().loaded()) {
+        FormWindow* window = stage_.windowOf(*form);
+        window->show();
+        for (QWidget* widget : tabChain(window)) {
+            const QString name = QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+            EXPECT_FALSE(name.isEmpty()) << form->name().toStdString() << ": " << widget->metaObject()->className()
+                                         << ' ' << widget->objectName().toStdString();
+        }
+    }
+}
+
+TEST_F(AllWindows, LetTabLeaveEachField) {
+    forEachControl([this](const Control& control, QWidget* widget, const std::string& name) {
+        FormWindow* window = stage_.windowOf(control.form());
+        window->show();
+        const std::vector<QWidget*> chain = tabChain(window);
+        // In the text of a report Tab is a character, as in any editor.
+        if (control.kind() == Kind::RichText || chain.size() < 2 || std::ranges::find(chain, widget) == chain.end()) {
+            return;
+        }
+        widget->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(widget, Qt::Key_Tab);
+        EXPECT_NE(window->focusWidget(), widget) << name;
+    });
+}
+
+TEST_F(AllWindows, KeepTheirValuesUnderTheWheel) {
+    forEachControl([](const Control& control, QWidget* widget, const std::string& name) {
+        const auto* text = dynamic_cast<const forms::TextControl*>(&control);
+        if (!widget || !text || control.kind() == Kind::RichText) {
+            return;
+        }
+        const QString before = text->text();
+        for (const int turn : {120, -120}) {
+            QWheelEvent wheel({5, 5}, widget->mapToGlobal(QPointF(5, 5)), {}, {0, turn}, Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(widget, &wheel);
+        }
+        EXPECT_EQ(text->text(), before) << name;
+    });
+}
+
+QChar mnemonicOf(const QString& caption) {
+    const QKeySequence key = QKeySequence::mnemonic(caption);
+    return key.isEmpty() ? QChar() : QChar(static_cast<char16_t>(key[0].key()));
+}
+
+TEST_F(AllWindows, GiveNoCaptionOfTheirOwnAMnemonicThatIsTaken) {
+    for (forms::Form* form : program_.desk().loaded()) {
+        QStringList taken;
+        for (const Control* control : form->controls()) {
+            if (control->kind() == Kind::Button || control->kind() == Kind::Option || control->kind() == Kind::Check) {
+                taken << QString(mnemonicOf(static_cast<const forms::TextControl*>(control)->text()));
+            }
+        }
+        for (const QLabel* label : stage_.windowOf(*form)->findChildren<QLabel*>()) {
+            const QChar mnemonic = label->buddy() ? mnemonicOf(label->text()) : QChar();
+            if (!mnemonic.isNull()) {
+                EXPECT_FALSE(taken.contains(QString(mnemonic)))
+                    << form->name().toStdString() << ": " << label->text().toStdString();
+                taken << QString(mnemonic);
+            }
+        }
+    }
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <QListView>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScrollArea>
 #include <set>
 
 #include "qt/binder.h"
@@ -76,12 +75,7 @@ private:
         columns->setSpacing(2 * kGrid);
         columns->addLayout(leftColumn(), 1);
         columns->addLayout(rightColumn(circumferences), 1);
-        auto* area = new QScrollArea;
-        area->setWidget(sheet);
-        area->setWidgetResizable(true);
-        area->setFrameShape(QFrame::NoFrame);
-        area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        return area;
+        return scrolling(sheet);
     }
 
     QLayout* leftColumn() {

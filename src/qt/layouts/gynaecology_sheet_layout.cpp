@@ -2,7 +2,6 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScrollArea>
 #include <set>
 
 #include "qt/key_filter.h"
@@ -57,12 +56,7 @@ private:
         columns->setColumnStretch(0, 1);
         columns->setColumnStretch(1, 1);
         column->addLayout(columns, 1);
-        auto* area = new QScrollArea;
-        area->setWidget(page);
-        area->setWidgetResizable(true);
-        area->setFrameShape(QFrame::NoFrame);
-        area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        return area;
+        return scrolling(page);
     }
 
     // Behind the title the field that both pages have and no record keeps.

@@ -1,6 +1,7 @@
 #include "qt/layouts/parts.h"
 
 #include <QLabel>
+#include <QScrollArea>
 #include <QWidget>
 
 #include "qt/theme.h"
@@ -30,6 +31,16 @@ QLabel* newCaption(const QString& text, QWidget* field) {
     auto* caption = new QLabel(text);
     caption->setBuddy(field);
     return caption;
+}
+
+QWidget* scrolling(QWidget* content) {
+    auto* area = new QScrollArea;
+    area->setWidget(content);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus);
+    return area;
 }
 
 void setTabOrder(std::initializer_list<QWidget*> widgets) {

@@ -15,6 +15,9 @@ QHBoxLayout* newRow(QWidget* parent = nullptr, int margin = 0);
 /// A caption that leads to its field: an Alt key in it moves the focus there.
 QLabel* newCaption(const QString& text, QWidget* field);
 
+/// Lets a widget scroll upwards and downwards where there is no room for all of it. Tab stops at its fields alone.
+QWidget* scrolling(QWidget* content);
+
 /// Tab walks these widgets in this order.
 void setTabOrder(std::initializer_list<QWidget*> widgets);
 
