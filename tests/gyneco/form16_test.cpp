@@ -370,15 +370,6 @@ TEST_F(GynaecologyWriting, QuitUnloadsItAndAsksNothing) {
     EXPECT_TRUE(stored(2, "NUMECHO").isEmpty());
 }
 
-class PictureWindow final : public forms::Form {
-public:
-    PictureWindow(forms::Desk& desk, const QString& name) : Form(desk, name, name) {}
-    forms::TextBox TxtNumEcho{*this, "TxtNumEcho"};
-    forms::TextBox TxtRechNom{*this, "TxtRechNom"};
-    forms::TextBox TxtRechDate{*this, "TxtRechDate"};
-    forms::TextBox TxtRechNumEcho{*this, "TxtRechNumEcho"};
-};
-
 TEST_F(GynaecologyWriting, TheCaptureWindowGetsTheNumber) {
     desk().add("Form19", [this] { return std::make_unique<PictureWindow>(desk(), "Form19"); });
     Form16& form = newExam();

@@ -163,8 +163,48 @@ TEST_F(GynaecologyCorrection, AnExamDeletedElsewhereIsNotWrittenOverAnotherOne) 
     query("SELECT*FROM GYNECO WHERE NUMERO=2And NUMECHO=2").remove();
     answer(form, true);
     EXPECT_EQ(world_.boxes.reported, QList<int>({3167}));
+    EXPECT_TRUE(world_.boxes.said.isEmpty());
     EXPECT_TRUE(shown("Form17"));
+    EXPECT_EQ(form.pointer(), forms::Pointer::Normal);
+    EXPECT_EQ(form.sheet.TxtGyneco(26).text(), "Corrigée");
     EXPECT_EQ(stored(2, "CONCLU"), QStringList({"Une"}));
+}
+
+TEST_F(GynaecologyCorrection, TheOnlyExamDeletedElsewhereIsReportedAndNotWrittenAnew) {
+    addExam(2, 1, "10/01/2002", {{"CONCLU", "Une"}});
+    viewLast();
+    Form17& form = correct();
+    form.sheet.TxtGyneco(26).setText("Corrigée");
+    query("SELECT*FROM GYNECO WHERE NUMERO=2And NUMECHO=1").remove();
+    answer(form, true);
+    EXPECT_EQ(world_.boxes.reported, QList<int>({3167}));
+    EXPECT_EQ(form.sheet.TxtGyneco(26).text(), "Corrigée");
+    EXPECT_TRUE(stored(2, "CONCLU").isEmpty());
+    press(form.CmdQuitter);
+    EXPECT_FALSE(loaded("Form17"));
+    EXPECT_TRUE(shown("Form18"));
+}
+
+TEST_F(GynaecologyCorrection, ANoAfterTheExamWasDeletedElsewhereClosesTheWindow) {
+    addExam(2, 1, "10/01/2002", {{"CONCLU", "Une"}});
+    addExam(2, 2, "11/02/2002", {{"CONCLU", "Deux"}});
+    viewLast();
+    Form17& form = correct();
+    query("SELECT*FROM GYNECO WHERE NUMERO=2And NUMECHO=2").remove();
+    answer(form, false);
+    EXPECT_FALSE(loaded("Form17"));
+    EXPECT_EQ(view().TxtGyneco(21).text(), "Une");
+    EXPECT_EQ(stored(2, "CONCLU"), QStringList({"Une"}));
+}
+
+TEST_F(GynaecologyCorrection, AnExamDeletedElsewhereBeforeItIsOpenedIsReported) {
+    addExam(2, 1, "10/01/2002");
+    viewLast();
+    query("SELECT*FROM GYNECO WHERE NUMERO=2And NUMECHO=1").remove();
+    press(view().CmdModifs);
+    EXPECT_EQ(world_.boxes.reported, QList<int>({3021}));
+    EXPECT_FALSE(loaded("Form17"));
+    EXPECT_TRUE(shown("Form18"));
 }
 
 }  // namespace
