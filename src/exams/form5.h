@@ -20,7 +20,7 @@ public:
     forms::TextBox TxtNumFoet{*this, "TxtNumFoet", "1"};
     forms::Label Label31{*this, "Label31", "Embryon N°"};
     forms::Label Label32{*this, "Label32", "2"};
-    forms::Button Command2{*this, "Command2", "&DGUS"};
+    forms::Button Command2{*this, "Command2", "DGUS"};
     forms::Button CmdPhotos{*this, "CmdPhotos", "&Photos"};
     forms::Button CmdEnregis{*this, "CmdEnregis", "&Enregistrer"};
     forms::Button CmdQuitter{*this, "CmdQuitter", "&Quitter"};

@@ -14,8 +14,8 @@ public:
     bool exclusive() const override { return true; }
 
     FirstTrimesterSheet sheet;
-    forms::Button CmdModifs{*this, "CmdModifs", "&Enregistrer Modifs"};
-    forms::Button CmdQuitter{*this, "CmdQuitter", "&Quitter sans Enregistrer"};
+    forms::Button CmdModifs{*this, "CmdModifs", "Enregistrer Modifs"};
+    forms::Button CmdQuitter{*this, "CmdQuitter", "Quitter sans Enregistrer"};
 
     void AFFCIVILITES();
 

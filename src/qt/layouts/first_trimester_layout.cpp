@@ -175,12 +175,18 @@ private:
     Binder bind_;
 };
 
+/// A button whose caption marks no letter.
+void pressWithAlt(Qt::Key letter, const FormWindow& window, const forms::Button& button) {
+    static_cast<QPushButton*>(window.widgetOf(button))->setShortcut(QKeyCombination(Qt::AltModifier, letter));
+}
+
 }  // namespace
 
 void layOutForm5(exams::Form5& form, FormWindow& window) {
     SheetLayout layout(form.sheet, window);
     layout.build(&form.Command2, {&form.TxtCa1, &form.TxtCa2, &form.TxtCa3},
                  {&form.CmdEnregis, &form.CmdPhotos, &form.CmdQuitter});
+    pressWithAlt(Qt::Key_D, window, form.Command2);
     // Nothing reads these three; they have no place of their own on the sheet.
     auto* spare = new QWidget(&window);
     auto* row = newRow(spare);
@@ -192,6 +198,8 @@ void layOutForm5(exams::Form5& form, FormWindow& window) {
 
 void layOutForm7(exams::Form7& form, FormWindow& window) {
     SheetLayout(form.sheet, window).build(nullptr, {}, {&form.CmdModifs, &form.CmdQuitter});
+    pressWithAlt(Qt::Key_E, window, form.CmdModifs);
+    pressWithAlt(Qt::Key_Q, window, form.CmdQuitter);
 }
 
 }  // namespace qt
