@@ -1,6 +1,7 @@
 #include "base/numbers.h"
 
 #include <QLocale>
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -128,7 +129,9 @@ QString decimalText(double value) {
 }
 
 QString queryNumber(QStringView text) {
-    return QString::number(leadingNumber(text.trimmed()), 'f', 0);
+    // Hundreds of digits are no number of a record, but must stay digits.
+    const double number = std::min(leadingNumber(text.trimmed()), std::numeric_limits<double>::max());
+    return QString::number(number, 'f', 0);
 }
 
 }  // namespace base

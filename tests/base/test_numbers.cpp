@@ -136,6 +136,14 @@ TEST(QueryNumber, IsTheWholeNumberAtTheStart) {
     EXPECT_EQ(base::queryNumber(u"1234567890123456").toStdString(), "1234567890123456");
 }
 
+TEST(QueryNumber, StaysOfDigitsHoweverLongTheTextIs) {
+    const QString number = base::queryNumber(QString(400, u'2'));
+    EXPECT_GT(number.size(), 300);
+    for (const QChar c : number) {
+        ASSERT_TRUE(c >= u'0' && c <= u'9') << number.toStdString();
+    }
+}
+
 TEST(QueryNumber, IsZeroForATextWithoutOne) {
     EXPECT_EQ(base::queryNumber(u"").toStdString(), "0");
     EXPECT_EQ(base::queryNumber(u"' OR 1").toStdString(), "0");
