@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Fails on an include that goes up or sideways between the rooms of src/."""
+"""Fails on an include that goes up or sideways between the rooms of src/, and on a call that starts another program."""
 
 import pathlib
 import re
@@ -43,6 +43,9 @@ LIBRARIES = {
     },
 }
 
+# The program starts no other one: nothing typed can reach a shell.
+STARTS_A_PROGRAM = r"\bQProcess\b|\b(system|popen|fork|exec[lv]p?e?|posix_spawnp?)\s*\("
+
 
 def allowed_rooms(room: str) -> set:
     if room in ALLOWED:
@@ -71,6 +74,8 @@ def faults(root: pathlib.Path):
                 elif other not in allowed or (room, other) in CLOSED:
                     if (room, target) not in EXCEPTIONS:
                         yield f"{path}:{number}: {room} must not include {target}"
+            if re.search(STARTS_A_PROGRAM, line):
+                yield f"{path}:{number}: nothing in the program starts another one"
             theirs = re.match(r"\s*#\s*include\s+(<[^>]+>)", line)
             if theirs:
                 for pattern, owners in LIBRARIES.items():

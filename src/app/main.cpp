@@ -1,5 +1,6 @@
 #include <QApplication>
 
+#include "base/private_files.h"
 #include "ports/clock.h"
 #include "ports/settings_file.h"
 #include "qt/french.h"
@@ -15,6 +16,7 @@
 #include "shell/program.h"
 
 int main(int argc, char** argv) {
+    base::keepFilesPrivate();
     QApplication application(argc, argv);
     qt::speakFrench(application);
     qt::theme::apply(application);

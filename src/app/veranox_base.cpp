@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "base/errors.h"
+#include "base/private_files.h"
 #include "practice/check.h"
 #include "practice/practice.h"
 #include "practice/restore.h"
@@ -124,6 +125,7 @@ int run(const QStringList& arguments) {
 }  // namespace
 
 int main(int count, char** words) {
+    base::keepFilesPrivate();
     QStringList arguments;
     for (int i = 1; i < count; ++i) {
         arguments << QFile::decodeName(words[i]);

@@ -8,6 +8,7 @@
 #include <iostream>
 #include <string>
 
+#include "base/private_files.h"
 #include "port/server.h"
 #include "qt/french.h"
 #include "qt/theme.h"
@@ -45,6 +46,7 @@ void logToStandardError(QtMsgType, const QMessageLogContext&, const QString& mes
 }  // namespace
 
 int main(int argc, char** argv) {
+    base::keepFilesPrivate();
     qInstallMessageHandler(logToStandardError);
     QApplication application(argc, argv);
     qt::speakFrench(application);
