@@ -1,6 +1,6 @@
 #include <QApplication>
 
-#include "base/private_files.h"
+#include "base/process.h"
 #include "ports/clock.h"
 #include "ports/settings_file.h"
 #include "qt/french.h"
@@ -16,7 +16,7 @@
 #include "shell/program.h"
 
 int main(int argc, char** argv) {
-    base::keepFilesPrivate();
+    base::settleProcess();
     QApplication application(argc, argv);
     qt::speakFrench(application);
     qt::theme::apply(application);

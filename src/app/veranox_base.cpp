@@ -5,7 +5,7 @@
 #include <cstdio>
 
 #include "base/errors.h"
-#include "base/private_files.h"
+#include "base/process.h"
 #include "practice/check.h"
 #include "practice/practice.h"
 #include "practice/restore.h"
@@ -125,7 +125,7 @@ int run(const QStringList& arguments) {
 }  // namespace
 
 int main(int count, char** words) {
-    base::keepFilesPrivate();
+    base::settleProcess();
     QStringList arguments;
     for (int i = 1; i < count; ++i) {
         arguments << QFile::decodeName(words[i]);

@@ -8,7 +8,7 @@
 #include <iostream>
 #include <string>
 
-#include "base/private_files.h"
+#include "base/process.h"
 #include "port/server.h"
 #include "qt/french.h"
 #include "qt/theme.h"
@@ -46,7 +46,7 @@ void logToStandardError(QtMsgType, const QMessageLogContext&, const QString& mes
 }  // namespace
 
 int main(int argc, char** argv) {
-    base::keepFilesPrivate();
+    base::settleProcess();
     qInstallMessageHandler(logToStandardError);
     QApplication application(argc, argv);
     qt::speakFrench(application);

@@ -78,6 +78,9 @@ ErrorNumber openError(sqlite3* database) {
 }
 
 ErrorNumber numberOf(sqlite3* database, int code) {
+    if (code == SQLITE_READONLY_DBMOVED) {
+        return ErrorNumber::DatabaseNotFound;
+    }
     switch (code & 0xFF) {
         case SQLITE_BUSY:
         case SQLITE_LOCKED:

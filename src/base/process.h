@@ -1,0 +1,10 @@
+#pragma once
+
+namespace base {
+
+/// How every process of the program behaves, from its start: what it makes can be read and written by its owner alone,
+/// for it holds what patients trust a doctor with; and a write beyond the size that a file may have fails, instead of
+/// ending the process with all that was typed.
+void settleProcess();
+
+}  // namespace base
