@@ -58,10 +58,10 @@ void fill(const QString& path, const QString& table, int count, const ValueOf& v
 }
 
 // The exams of a dossier lie years apart: here the first ones of all dossiers, then the second ones, and so on.
-void fillExams(const QString& path, int count, int ofADossier) {
+void fillExams(const QString& path, const QString& table, int count, int ofADossier) {
     std::mt19937 random(8);
     const int dossiers = count / ofADossier;
-    fill(path, u"1TER"_qs, count, [=, &random](int record, const Field& field) {
+    fill(path, table, count, [=, &random](int record, const Field& field) {
         const int number = record / dossiers + 1;
         if (field.kind == FieldKind::Number) {
             return QByteArray::number(field.name == u"Numero"_qs ? record % dossiers + 1 : number);
@@ -110,6 +110,17 @@ QString made(const QString& name, FileKind kind, const QString& table, int count
     return path;
 }
 
+/// The path of an ECHO.MDB with so many exams of this table, and the stored responses.
+QString madeExams(const QString& table, int count, int ofADossier) {
+    const QString path = place(u"ECHO-%1-%2-%3.MDB"_qs.arg(table).arg(count).arg(ofADossier));
+    if (!QFile::exists(path)) {
+        store::createFile(FileKind::Echo, path);
+        fillExams(path, table, count, ofADossier);
+        fillResponses(path);
+    }
+    return path;
+}
+
 }  // namespace
 
 QString place(const QString& name) {
@@ -148,13 +159,11 @@ QString dateOfExam(int number) {
 }
 
 QString exams(int count, int ofADossier) {
-    const QString path = place(u"ECHO%1-%2.MDB"_qs.arg(count).arg(ofADossier));
-    if (!QFile::exists(path)) {
-        store::createFile(FileKind::Echo, path);
-        fillExams(path, count, ofADossier);
-        fillResponses(path);
-    }
-    return path;
+    return madeExams(u"1TER"_qs, count, ofADossier);
+}
+
+QString gynaecologyExams(int count, int ofADossier) {
+    return madeExams(u"GYNECO"_qs, count, ofADossier);
 }
 
 QString histories() {

@@ -23,6 +23,8 @@ QString patients(int count = kPatients);
 /// The path of ECHO.MDB: obstetric exams of 82 fields, in the order in which they were made, and the stored responses.
 /// The first half of each dossier's exams are of the first trimester, the others of the later ones.
 QString exams(int count = kExams, int ofADossier = kExamsOfADossier);
+/// The same with exams of gynaecology alone, of 41 fields.
+QString gynaecologyExams(int count = kExams, int ofADossier = kExamsOfADossier);
 /// The date of a dossier's exam with this number, from 1.
 QString dateOfExam(int number);
 /// The path of ATCD.MDB: a history for each patient.

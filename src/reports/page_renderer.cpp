@@ -20,8 +20,13 @@ TextRenderer::TextRenderer(const QTextDocument& text, const Rectangle& drawing, 
       drawing_(drawing),
       scaleX_(static_cast<double>(page.dpiX) / kTwipsPerInch),
       scaleY_(static_cast<double>(page.dpiY) / kTwipsPerInch) {
-    measureInTwips(*text_);
+    // Each paragraph keeps its glyphs, which are drawn as soon as it is laid out; and the width comes first, so that it
+    // is laid out once.
+    for (QTextBlock block = text_->begin(); block.isValid(); block = block.next()) {
+        block.layout()->setCacheEnabled(true);
+    }
     text_->setTextWidth(drawing.right - drawing.left);
+    measureInTwips(*text_);
     // A long text is laid out bit by bit unless its size is asked for.
     text_->documentLayout()->documentSize();
 }

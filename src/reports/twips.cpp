@@ -51,7 +51,16 @@ void measureInTwips(QTextDocument& document) {
     QTextOption option = document.defaultTextOption();
     option.setTabStopDistance(kTabStop);
     document.setDefaultTextOption(option);
-    document.documentLayout()->setPaintDevice(&sheet);
+    // Hinting fits letters to pixels, of which there are none here; without it widths are exact and cost less.
+    QFont font = document.defaultFont();
+    font.setHintingPreference(QFont::PreferNoHinting);
+    document.setDefaultFont(font);
+    // A layout that is still to come gets the sheet before it lays out anything.
+    const auto onSheet = [&document] { document.documentLayout()->setPaintDevice(&sheet); };
+    const QMetaObject::Connection made =
+        QObject::connect(&document, &QTextDocument::documentLayoutChanged, &document, onSheet);
+    onSheet();
+    QObject::disconnect(made);
 }
 
 std::int32_t toTwips(std::int32_t pixels, std::int32_t dpi) {
