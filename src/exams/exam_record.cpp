@@ -35,7 +35,7 @@ void readRecord(const forms::Form& form, const QString& array, std::span<const r
 void showFields(const forms::Form& form, std::span<const ShownField> fields, const store::Recordset& record) {
     for (const ShownField& shown : fields) {
         auto* control = static_cast<forms::TextControl*>(form.find(shown.control, shown.index));
-        control->setText(record.text(shown.field.toString()));
+        control->setText(record.text(QString::fromRawData(shown.field.data(), shown.field.size())));
     }
 }
 

@@ -24,7 +24,9 @@ Control* Form::find(QStringView name, int index) const {
     Control* only = nullptr;
     int named = 0;
     for (Control* control : controls_) {
-        if (name.compare(control->name(), Qt::CaseInsensitive) != 0) {
+        // Windows are filled through here: the cheap looks come first.
+        const bool other = index >= 0 && control->index() != index;
+        if (other || control->name().size() != name.size() || name.compare(control->name(), Qt::CaseInsensitive) != 0) {
             continue;
         }
         if (control->index() == index) {
@@ -33,7 +35,7 @@ Control* Form::find(QStringView name, int index) const {
         only = control;
         ++named;
     }
-    return index < 0 && named == 1 ? only : nullptr;
+    return named == 1 ? only : nullptr;
 }
 
 void Form::moveFocus(Control& control) {
