@@ -82,6 +82,10 @@ void ExamLife::showWith(const QString& window, const QList<std::pair<QString, QS
     }
 }
 
+void ExamLife::showCapture(const QString& examNumber) const {
+    showWith(QStringLiteral("Form19"), {{QStringLiteral("TxtNumEcho"), examNumber}});
+}
+
 void ExamLife::returnToDossier() const {
     desk().unload(QStringLiteral("Form4"));
     desk().show(QStringLiteral("Form4"));

@@ -31,6 +31,12 @@ void FetusPanels::showFetus(int which) {
     FrameJ3.setVisible(which == 2);
 }
 
+void FetusPanels::showFirstFetuses(int count) {
+    FrameJ1.setVisible(count >= 1);
+    FrameJ2.setVisible(count >= 2);
+    FrameJ3.setVisible(count >= 3);
+}
+
 void FetusPanels::paintFetus(int which) {
     showFetus(which);
     Frame5.setBack(kColors[static_cast<std::size_t>(which)]);

@@ -23,7 +23,9 @@ public:
 
     /// Brings fetus 0, 1 or 2 alone in view.
     void showFetus(int which);
-    /// The same, and gives the panel the colour of that fetus.
+    /// Shows the frames of the first `count` fetuses, the last one on top.
+    void showFirstFetuses(int count);
+    /// Brings a fetus alone in view and gives the panel the colour of that fetus.
     void paintFetus(int which);
     /// Shows the panel with the buttons of two fetuses or of three.
     void offerFetuses(bool three);

@@ -89,11 +89,6 @@ static_assert(responses::coversEachIndexOnce(kFirstTrimesterFields, 0, kLastFirs
 
 // The fields that steps name.
 namespace first_trimester {
-inline constexpr int kBodyMass = 0;
-inline constexpr int kOperator = 1;
-inline constexpr int kLastPeriod = 2;
-inline constexpr int kTheoreticalStart = 3;
-inline constexpr int kUltrasoundStart = 4;
 inline constexpr int kSacs = 11;
 inline constexpr int kEmbryos = 15;
 inline constexpr int kCrownRumpLength = 18;

@@ -2,7 +2,9 @@
 
 #include "base/numbers.h"
 #include "exams/exam_record.h"
+#include "exams/form11.h"
 #include "exams/form6.h"
+#include "exams/form8.h"
 #include "exams/later_trimesters_reports.h"
 #include "exams/report_head.h"
 #include "exams/settings_file.h"
@@ -131,8 +133,11 @@ const forms::TextBox& Form10::morphology(int fetus) const {
 }
 
 void Form10::wireSteps() {
-    Modif.onClick = [this] { desk().show(QStringLiteral("Form11")); };
-    CmdModifs.onClick = [this] { Modif.click(); };
+    Modif.onClick = [this] { desk().show(Form11::kName.toString()); };
+    CmdModifs.onClick = [this] {
+        Modif.click();
+        desk().at<Form11>().sheet.fields(sheet_fields::kOperator).setFocus();
+    };
     Supprim.onClick = [this] { Supprime(); };
     CmdSupprime.onClick = [this] { Supprime(); };
     Biometrie.onClick = [this] { desk().show(QStringLiteral("Form12")); };
@@ -152,7 +157,7 @@ void Form10::load() {
 }
 
 void Form10::unloading() {
-    exams().leaveViewing({Form6::kName, u"Form12", u"Form13", u"Form8"});
+    exams().leaveViewing({Form6::kName, u"Form12", u"Form13", Form8::kName});
 }
 
 // The identity goes with each exam: a window that stayed loaded out of sight may hold another patient's.
@@ -200,7 +205,7 @@ void Form10::CptRendu2T() {
 }
 
 void Form10::Supprime() {
-    deleteExam([] {});
+    deleteExam([this] { desk().at<Form8>().clear(); });
 }
 
 }  // namespace exams

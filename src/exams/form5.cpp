@@ -16,7 +16,8 @@ namespace fields = first_trimester;
 Form5::Form5(ObstetricExams& exams)
     : Form(exams.life().desk(), kName.toString(), QStringLiteral("Rédaction 1 Ter")),
       sheet(*this, exams),
-      exams_(exams) {
+      exams_(exams),
+      dating_(sheet, sheet.LblAgeGesta, exams.life()) {
     sheet.FrameJ1.holds(TxtCa1);
     sheet.FrameJ2.holds(TxtCa2);
     sheet.FrameJ3.holds(TxtCa3);
@@ -25,16 +26,9 @@ Form5::Form5(ObstetricExams& exams)
 }
 
 void Form5::wireFields() {
-    field(fields::kLastPeriod).onChange = [this] { onLastPeriodChange(); };
-    for (const int start : {fields::kTheoreticalStart, fields::kUltrasoundStart}) {
-        field(start).onChange = [this, start] { onStartChange(start); };
-    }
     field(fields::kEmbryos).onChange = [this] { onEmbryosChange(); };
     for (const int count : {fields::kSacs, fields::kEmbryos}) {
-        field(count).onKey = [this, count](forms::KeyPress& key) {
-            field(count).setText({});
-            digitsOnly(key);
-        };
+        field(count).onKey = [this, count](forms::KeyPress& key) { oneDigit(field(count), key); };
     }
     field(fields::kCrownRumpLength).onKey = digitsOnly;
 }
@@ -44,9 +38,7 @@ void Form5::wireButtons() {
         sheet.buttons()[static_cast<std::size_t>(i)]->onClick = [this, i] { sheet.paintFetus(i); };
     }
     Command2.onClick = [this] { onDateFromLength(); };
-    CmdPhotos.onClick = [this] {
-        exams_.life().showWith(QStringLiteral("Form19"), {{QStringLiteral("TxtNumEcho"), sheet.TxtNumEcho.text()}});
-    };
+    CmdPhotos.onClick = [this] { exams_.life().showCapture(sheet.TxtNumEcho.text()); };
     CmdEnregis.onClick = [this] { save(); };
     CmdQuitter.onClick = [this] {
         unload();
@@ -59,7 +51,7 @@ void Form5::unloading() {
 }
 
 void Form5::AFFCIVILITES() {
-    exams_.life().copyIdentity(sheet.LblNom, sheet.LblPrenom, sheet.LblNumInt);
+    sheet.copyIdentity();
 }
 
 void Form5::openNew() {
@@ -75,45 +67,13 @@ void Form5::openNew() {
     // Emptying the number of embryos may have brought the panel back.
     sheet.Frame5.hide();
     sheet.TxtNumEcho.setText(number);
-    field(fields::kOperator).setFocus();
+    field(sheet_fields::kOperator).setFocus();
 }
 
 void Form5::clear() {
     sheet.TxtDate.setText(base::shortDate(exams_.life().around().clock.today()));
     sheet.LblAgeGesta.setText({});
-    sheet.TxtPds.setText({});
-    sheet.TxtTaille.setText({});
-    for (int i = sheet.Txt1Ter.first(); i <= sheet.Txt1Ter.last(); ++i) {
-        field(i).setText({});
-    }
-}
-
-void Form5::onLastPeriodChange() {
-    const auto start =
-        biometry::theoreticalStart(field(fields::kLastPeriod).text(), exams_.life().around().clock.today());
-    if (start.fails()) {
-        refuseDates({});
-    } else if (start.writes()) {
-        field(fields::kTheoreticalStart).setText(start.text());
-    }
-}
-
-void Form5::onStartChange(int index) {
-    const auto age = biometry::ageText(field(index).text(), sheet.TxtDate.text(), exams_.life().around().clock.today());
-    if (age.writes()) {
-        sheet.LblAgeGesta.setText(age.text());
-    } else if (index == fields::kTheoreticalStart) {
-        refuseDates({fields::kTheoreticalStart, fields::kLastPeriod});
-    } else {
-        refuseDates({fields::kUltrasoundStart});
-    }
-}
-
-void Form5::refuseDates(std::initializer_list<int> cleared) {
-    exams_.life().boxes().message(biometry::kDateFormatMessage.toString());
-    for (const int index : cleared) {
-        field(index).setText({});
-    }
+    sheet.clearFields();
 }
 
 void Form5::onEmbryosChange() {
@@ -140,10 +100,10 @@ void Form5::onDateFromLength() {
     start.orThrow();
     if (start.kind() == biometry::Outcome::Kind::Refuse) {
         exams_.life().boxes().message(start.text());
-    } else if (start.writes() && start.text() == field(fields::kUltrasoundStart).text()) {
-        onStartChange(fields::kUltrasoundStart);
+    } else if (start.writes() && start.text() == field(sheet_fields::kUltrasoundStart).text()) {
+        dating_.ageFrom(sheet_fields::kUltrasoundStart);
     } else if (start.writes()) {
-        field(fields::kUltrasoundStart).setText(start.text());
+        field(sheet_fields::kUltrasoundStart).setText(start.text());
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "exams/dating_steps.h"
 #include "exams/first_trimester_sheet.h"
 #include "forms/form.h"
 
@@ -36,16 +37,14 @@ private:
     void wireFields();
     void wireButtons();
 
-    void onLastPeriodChange();
-    void onStartChange(int index);
     void onEmbryosChange();
     void onDateFromLength();
-    void refuseDates(std::initializer_list<int> cleared);
     void save();
     void addRecord();
     forms::TextBox& field(int index) { return sheet.Txt1Ter(index); }
 
     ObstetricExams& exams_;
+    DatingSteps dating_;
     /// The number of embryos as last read; a text that is no number leaves it.
     std::int16_t embryos_ = 0;
 };

@@ -25,7 +25,7 @@ Form7::Form7(ObstetricExams& exams)
 }
 
 void Form7::AFFCIVILITES() {
-    exams_.life().copyIdentity(sheet.LblNom, sheet.LblPrenom, sheet.LblNumInt);
+    sheet.copyIdentity();
     sheet.TxtNumEcho.setText(desk().at<Form6>().LblNumEcho.text());
 }
 

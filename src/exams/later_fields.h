@@ -28,8 +28,8 @@ inline constexpr auto kFoot = numbers(35, 70, 40);
 inline constexpr auto kTibia = numbers(30, 60, 35);
 inline constexpr auto kHumerus = numbers(33, 65, 38);
 inline constexpr auto kNasalBone = numbers(2, 12, 8);
-/// The practice's own list. The writing window may offer the published one in its place.
-inline constexpr auto kMorphology = phrases(17);
+/// Which list it is depends on the window and its menu.
+inline constexpr auto kMorphology = nothing();
 /// The indexes of the arteries are fractions: the list offers whole numbers, the value is typed.
 inline constexpr auto kArtery = numbers(0, 3, 1);
 }  // namespace later
@@ -121,12 +121,12 @@ static_assert(responses::coversEachIndexOnce(kLaterFields, 0, kLastLaterField));
 
 // The fields that steps name.
 namespace later {
-inline constexpr int kOperator = 1;
-inline constexpr int kUltrasoundStart = 4;
 /// The first field of each fetus, and how many they are in a row.
 inline constexpr std::array kFirstOfFetus{13, 33, 50};
 inline constexpr int kFieldsOfFetus = 17;
 /// The places of a fetus's fields in that row.
+inline constexpr int kPresentationPlace = 0;
+inline constexpr int kMovementsPlace = 1;
 inline constexpr int kHeartRatePlace = 2;
 inline constexpr int kNasalBonePlace = 13;
 inline constexpr int kMorphologyPlace = 14;

@@ -6,6 +6,7 @@
 #include "exams/form10.h"
 #include "exams/form5.h"
 #include "exams/form6.h"
+#include "exams/form8.h"
 #include "exams/settings_file.h"
 
 namespace exams {
@@ -32,7 +33,7 @@ void ObstetricExams::openNew(dossier::ExamFamily family) {
     if (family == dossier::ExamFamily::FirstTrimester) {
         life_.desk().at<Form5>().openNew();
     } else {
-        life_.desk().show(QStringLiteral("Form8"));
+        life_.desk().at<Form8>().openNew();
     }
 }
 
@@ -130,6 +131,9 @@ void ObstetricExams::keepMarks() {
         return;
     }
     LoadedMarks marks;
+    if (const auto* writing = life_.desk().peek<Form8>()) {
+        marks.bourgeois = writing->Bourgeois.checked();
+    }
     if (const auto* view = life_.desk().peek<Form10>()) {
         marks.laterDetailed = view->CptrD.checked();
         marks.laterIntroduction = view->Intro.checked();

@@ -6,9 +6,11 @@
 #include "dossier/form3.h"
 #include "dossier/form4.h"
 #include "exams/form10.h"
+#include "exams/form11.h"
 #include "exams/form5.h"
 #include "exams/form6.h"
 #include "exams/form7.h"
+#include "exams/form8.h"
 #include "gyneco/form16.h"
 #include "gyneco/form17.h"
 #include "gyneco/form18.h"
@@ -39,6 +41,8 @@ void Program::addWindows() {
     desk_.add(QStringLiteral("Form7"), [this] { return std::make_unique<exams::Form7>(obstetric_); });
     desk_.add(QStringLiteral("Form6"), [this] { return std::make_unique<exams::Form6>(obstetric_); });
     desk_.add(QStringLiteral("Form9"), [this] { return std::make_unique<responses::Form9>(around_, state_); });
+    desk_.add(QStringLiteral("Form8"), [this] { return std::make_unique<exams::Form8>(obstetric_); });
+    desk_.add(QStringLiteral("Form11"), [this] { return std::make_unique<exams::Form11>(obstetric_); });
     desk_.add(QStringLiteral("Form10"), [this] { return std::make_unique<exams::Form10>(obstetric_); });
     desk_.add(QStringLiteral("Form14"), [this] { return std::make_unique<Form14>(desk_); });
     desk_.add(QStringLiteral("Form15"), [this] { return std::make_unique<Form15>(desk_); });

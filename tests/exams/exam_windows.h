@@ -1,9 +1,11 @@
 #pragma once
 
 #include "exams/form10.h"
+#include "exams/form11.h"
 #include "exams/form5.h"
 #include "exams/form6.h"
 #include "exams/form7.h"
+#include "exams/form8.h"
 #include "fakes/practice_windows.h"
 
 namespace exams {
@@ -16,6 +18,8 @@ protected:
         desk.add("Form5", [&] { return std::make_unique<Form5>(exams_); });
         desk.add("Form6", [&] { return std::make_unique<Form6>(exams_); });
         desk.add("Form7", [&] { return std::make_unique<Form7>(exams_); });
+        desk.add("Form8", [&] { return std::make_unique<Form8>(exams_); });
+        desk.add("Form11", [&] { return std::make_unique<Form11>(exams_); });
         desk.add("Form10", [&] { return std::make_unique<Form10>(exams_); });
     }
 
@@ -28,6 +32,14 @@ protected:
     Form6& viewLast(const QString& surname = "DUPONT") {
         press(dossierOf(surname).HlbCptDer);
         return view();
+    }
+    Form8& newLater(const QString& surname = "DUPONT") {
+        press(dossierOf(surname).Cmd2Ter);
+        return desk().at<Form8>();
+    }
+    Form11& correctLater() {
+        press(laterView().CmdModifs);
+        return desk().at<Form11>();
     }
     Form10& laterView() { return desk().at<Form10>(); }
     /// The same for a patient whose last exam is one of the later trimesters.

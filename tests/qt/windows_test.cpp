@@ -57,6 +57,7 @@ protected:
         }
         program_.start();
         correctAnExam("MARTINEAU", "CHRISTELLE", &dossier::Form4::HlbCptDer, "Form7");
+        correctAnExam("GUÉRIN", "SOPHIE", &dossier::Form4::HlbCptDer, "Form11");
         correctAnExam("ROSSIGNOL", {}, &dossier::Form4::Command5, "Form17");
         for (const QString& name : program_.desk().known()) {
             if (name != u"Form0") {

@@ -13,8 +13,6 @@ namespace {
 using theme::kGrid;
 namespace places = exams::later;
 
-constexpr int kPresentation = 0;
-constexpr int kMovements = 1;
 constexpr int kMeasures = places::kNasalBonePlace - places::kHeartRatePlace + 1;
 constexpr int kColumns = 3;
 constexpr int kMeasureRows = kMeasures / kColumns;
@@ -47,19 +45,16 @@ public:
         }
     }
 
-    void build(QWidget* below) {
-        across(kPresentation, 0);
-        across(kMovements, 1);
+    void build() {
+        across(places::kPresentationPlace, 0);
+        across(places::kMovementsPlace, 1);
         for (int i = 0; i < kMeasures; ++i) {
             measure(places::kHeartRatePlace + i, 2 + i % kMeasureRows, i / kMeasureRows);
         }
         int row = 2 + kMeasureRows;
         arteries(row++);
         across(places::kMorphologyPlace, row, Qt::AlignTop);
-        grid_->setRowStretch(row++, 1);
-        if (below) {
-            grid_->addWidget(below, row, 1, 1, -1);
-        }
+        grid_->setRowStretch(row, 1);
     }
 
 private:
@@ -95,9 +90,8 @@ private:
 
 }  // namespace
 
-void layOutFetus(QWidget* body, const std::function<QWidget*(int place, const QString& caption)>& field,
-                 QWidget* below) {
-    FetusGrid(body, field).build(below);
+void layOutFetus(QWidget* body, const std::function<QWidget*(int place, const QString& caption)>& field) {
+    FetusGrid(body, field).build();
 }
 
 }  // namespace qt

@@ -1,15 +1,9 @@
-#include <QLabel>
+#include <QGridLayout>
 #include <QLineEdit>
-#include <QListView>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <set>
 
-#include "qt/binder.h"
-#include "qt/key_filter.h"
 #include "qt/layouts/exam_layouts.h"
-#include "qt/layouts/exam_parts.h"
-#include "qt/layouts/offer_panel_layout.h"
+#include "qt/layouts/obstetric_sheet_layout.h"
 #include "qt/layouts/parts.h"
 #include "qt/section.h"
 #include "qt/theme.h"
@@ -22,62 +16,21 @@ using theme::kGrid;
 // The fields that hold texts of several lines.
 const std::set<int> kLongTexts{7, 8, 9, 10, 23, 24, 25, 26, 34, 42};
 
-/// The writing and the correction window of the first trimester: what stands above, the fields, and the offers beside
-/// them. The two differ in what the callers add.
-class SheetLayout {
+/// The columns of the first trimester's fields.
+class FirstTrimesterLayout : public ObstetricSheetLayout {
 public:
-    SheetLayout(exams::FirstTrimesterSheet& sheet, FormWindow& window)
-        : sheet_(sheet), window_(window), bind_(window) {}
+    /// `circumferences` stand at the end of each embryo, in the window that has them.
+    FirstTrimesterLayout(exams::FirstTrimesterSheet& sheet, FormWindow& window,
+                         std::vector<forms::TextBox*> circumferences)
+        : ObstetricSheetLayout(sheet, exams::kFirstTrimesterFields, kLongTexts, window),
+          circumferences_(std::move(circumferences)) {}
 
-    Binder& bind() { return bind_; }
-
-    /// `ultrasoundButton` stands beside the start by ultrasound; `circumferences` at the end of each embryo.
-    void build(forms::Button* ultrasoundButton, const std::vector<forms::TextBox*>& circumferences,
-               const std::vector<forms::Button*>& actions) {
-        auto* all = newColumn(&window_, 2);
-        all->addWidget(strip(ultrasoundButton));
-        auto* body = newRow();
-        body->setSpacing(2 * kGrid);
-        body->addWidget(fields(circumferences), 1);
-        body->addWidget(
-            newOfferPanel(bind_, {sheet_.List1, sheet_.List2, sheet_.Calendar1, sheet_.Text1, sheet_.CmdEfface}));
-        all->addLayout(body, 1);
-        all->addLayout(actionRow(bind_, actions));
-        window_.resize(1330, 710);
+    void build(const Strip& strip, const std::vector<forms::Button*>& actions) {
+        ObstetricSheetLayout::build(
+            strip, [this] { return leftColumn(); }, [this] { return rightColumn(); }, actions);
     }
 
 private:
-    QWidget* strip(forms::Button* ultrasoundButton) {
-        ExamStrip strip(bind_, ExamStrip::Ground::Window);
-        strip.identity(sheet_.LblNom, sheet_.LblPrenom, sheet_.LblNumInt);
-        strip.value(QStringLiteral("Echographie N°"), narrow(sheet_.TxtNumEcho, QStringLiteral("Echographie N°"), 3));
-        strip.value(QStringLiteral("Date de l'Examen"), narrow(sheet_.TxtDate, QStringLiteral("Date de l'Examen"), 10));
-        strip.value(QStringLiteral("Type"), narrow(sheet_.TxtTypecho, QStringLiteral("Type"), 2));
-        strip.value(QStringLiteral("Appareil"), bind_.label(sheet_.LblMachine));
-        strip.value(QStringLiteral("en service"), bind_.label(sheet_.LblDateCirc));
-        strip.nextLine();
-        for (const int date : {2, 3, 4}) {
-            strip.value(caption(date), narrow(sheet_.Txt1Ter(date), caption(date), 10));
-        }
-        if (ultrasoundButton) {
-            strip.add(bind_.button(*ultrasoundButton));
-        }
-        strip.value(QStringLiteral("Age Gestationnel"), bind_.label(sheet_.LblAgeGesta));
-        strip.value(QStringLiteral("Poids"), narrow(sheet_.TxtPds, QStringLiteral("Poids"), 4));
-        strip.value(QStringLiteral("Taille"), narrow(sheet_.TxtTaille, QStringLiteral("Taille"), 4));
-        strip.value(caption(0), narrow(sheet_.Txt1Ter(0), caption(0), 5));
-        return strip.widget();
-    }
-
-    QWidget* fields(const std::vector<forms::TextBox*>& circumferences) {
-        auto* sheet = new QWidget;
-        auto* columns = newRow(sheet);
-        columns->setSpacing(2 * kGrid);
-        columns->addLayout(leftColumn(), 1);
-        columns->addLayout(rightColumn(circumferences), 1);
-        return scrolling(sheet);
-    }
-
     QLayout* leftColumn() {
         auto* column = newColumn();
         auto* exam = new Section(QStringLiteral("Examen"));
@@ -92,20 +45,20 @@ private:
         return column;
     }
 
-    QLayout* rightColumn(const std::vector<forms::TextBox*>& circumferences) {
+    QLayout* rightColumn() {
         auto* column = newColumn();
         auto* count = new Section(QStringLiteral("Embryons"));
         auto* row = newRow(count->body());
-        QWidget* number = narrow(sheet_.Txt1Ter(15), caption(15), 3);
+        QWidget* number = narrow(sheet().fields(exams::first_trimester::kEmbryos), caption(15), 3);
         row->addWidget(newCaption(caption(15), number));
         row->addWidget(number);
-        row->addWidget(multiplePanel(bind_, sheet_.Frame5, {&sheet_.CmdJ1, &sheet_.CmdJ2, &sheet_.CmdJ3}));
+        row->addWidget(multiplePanel());
         row->addStretch(1);
         column->addWidget(count);
-        const auto frames = sheet_.frames();
+        const auto frames = sheet().frames();
         for (std::size_t i = 0; i < frames.size(); ++i) {
             column->addWidget(embryo(*frames[i], exams::first_trimester::kFirstOfEmbryo[i],
-                                     i < circumferences.size() ? circumferences[i] : nullptr),
+                                     i < circumferences_.size() ? circumferences_[i] : nullptr),
                               2);
         }
         auto* end = new Section(QStringLiteral("Annexes et conclusion"));
@@ -116,7 +69,7 @@ private:
 
     // Movements and nasal bone are phrases and want the width; the measures stand two by two.
     QWidget* embryo(forms::Frame& frame, int first, forms::TextBox* circumference) {
-        Section* section = bind_.section(frame);
+        Section* section = bind().section(frame);
         auto* grid = new QGridLayout(section->body());
         grid->setContentsMargins(0, 0, 0, 0);
         grid->setHorizontalSpacing(kGrid);
@@ -135,7 +88,7 @@ private:
         putField(2, 2, 4);
         putField(3, 0, 5);
         if (circumference) {
-            put(3, 2, QStringLiteral("C.A. (mm)"), bind_.line(*circumference, QStringLiteral("C.A. (mm)")));
+            put(3, 2, QStringLiteral("C.A. (mm)"), bind().line(*circumference, QStringLiteral("C.A. (mm)")));
         }
         putField(4, 0, 6, 3);
         putField(5, 0, 7, 3);
@@ -143,63 +96,26 @@ private:
         return section;
     }
 
-    void addRows(QFormLayout* rows, std::initializer_list<int> indexes) {
-        for (const int index : indexes) {
-            rows->addRow(caption(index), field(index));
-        }
-    }
-
-    QWidget* field(int index) {
-        QWidget* widget = nullptr;
-        if (kLongTexts.contains(index)) {
-            widget = bind_.memo(sheet_.Txt1Ter(index), caption(index));
-            widget->setMinimumHeight(kMemoHeight);
-        } else {
-            widget = bind_.line(sheet_.Txt1Ter(index), caption(index));
-        }
-        walkOnAtEnter(widget);
-        return widget;
-    }
-
-    QWidget* narrow(forms::TextBox& box, const QString& name, int characters) {
-        return narrowLine(bind_, box, name, characters);
-    }
-
-    static QString caption(int index) {
-        const auto row = std::ranges::find(exams::kFirstTrimesterFields, index, &responses::ExamField::index);
-        return row->caption.toString();
-    }
-
-    exams::FirstTrimesterSheet& sheet_;
-    FormWindow& window_;
-    Binder bind_;
+    std::vector<forms::TextBox*> circumferences_;
 };
-
-/// A button whose caption marks no letter.
-void pressWithAlt(Qt::Key letter, const FormWindow& window, const forms::Button& button) {
-    static_cast<QPushButton*>(window.widgetOf(button))->setShortcut(QKeyCombination(Qt::AltModifier, letter));
-}
 
 }  // namespace
 
 void layOutForm5(exams::Form5& form, FormWindow& window) {
-    SheetLayout layout(form.sheet, window);
-    layout.build(&form.Command2, {&form.TxtCa1, &form.TxtCa2, &form.TxtCa3},
-                 {&form.CmdEnregis, &form.CmdPhotos, &form.CmdQuitter});
-    pressWithAlt(Qt::Key_D, window, form.Command2);
-    // Nothing reads these three; they have no place of their own on the sheet.
-    auto* spare = new QWidget(&window);
-    auto* row = newRow(spare);
-    row->addWidget(layout.bind().label(form.Label31));
-    row->addWidget(layout.bind().line(form.TxtNumFoet, form.Label31.text()));
-    row->addWidget(layout.bind().label(form.Label32));
-    spare->hide();
+    FirstTrimesterLayout layout(form.sheet, window, {&form.TxtCa1, &form.TxtCa2, &form.TxtCa3});
+    layout.build(
+        {.kind = &form.sheet.TxtTypecho, .ultrasound = &form.Command2, .age = &form.sheet.LblAgeGesta, .mode = {}},
+        {&form.CmdEnregis, &form.CmdPhotos, &form.CmdQuitter});
+    layout.pressWithAlt(Qt::Key_D, form.Command2);
+    layout.putAside({&form.Label31, &form.TxtNumFoet, &form.Label32});
 }
 
 void layOutForm7(exams::Form7& form, FormWindow& window) {
-    SheetLayout(form.sheet, window).build(nullptr, {}, {&form.CmdModifs, &form.CmdQuitter});
-    pressWithAlt(Qt::Key_E, window, form.CmdModifs);
-    pressWithAlt(Qt::Key_Q, window, form.CmdQuitter);
+    FirstTrimesterLayout layout(form.sheet, window, {});
+    layout.build({.kind = &form.sheet.TxtTypecho, .age = &form.sheet.LblAgeGesta, .mode = {}},
+                 {&form.CmdModifs, &form.CmdQuitter});
+    layout.pressWithAlt(Qt::Key_E, form.CmdModifs);
+    layout.pressWithAlt(Qt::Key_Q, form.CmdQuitter);
 }
 
 }  // namespace qt

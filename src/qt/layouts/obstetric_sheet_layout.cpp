@@ -1,0 +1,142 @@
+#include "qt/layouts/obstetric_sheet_layout.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include "qt/key_filter.h"
+#include "qt/layouts/offer_panel_layout.h"
+#include "qt/layouts/parts.h"
+#include "qt/theme.h"
+
+namespace qt {
+
+using theme::kGrid;
+
+ObstetricSheetLayout::ObstetricSheetLayout(exams::ObstetricSheet& sheet, std::span<const responses::ExamField> rows,
+                                           std::set<int> longTexts, FormWindow& window)
+    : sheet_(sheet), rows_(rows), longTexts_(std::move(longTexts)), window_(window), bind_(window) {}
+
+void ObstetricSheetLayout::build(const Strip& parts, const std::function<QLayout*()>& left,
+                                 const std::function<QLayout*()>& right, const std::vector<forms::Button*>& actions,
+                                 QMenuBar* menu) {
+    auto* all = newColumn(&window_, 2);
+    if (menu) {
+        all->setMenuBar(menu);
+    }
+    all->addWidget(strip(parts));
+    auto* body = newRow();
+    body->setSpacing(2 * kGrid);
+    body->addWidget(columns(left, right), 1);
+    body->addWidget(
+        newOfferPanel(bind_, {sheet_.List1, sheet_.List2, sheet_.Calendar1, sheet_.Text1, sheet_.CmdEfface}));
+    all->addLayout(body, 1);
+    all->addLayout(actionRow(bind_, actions));
+    window_.resize(1330, 710);
+}
+
+QWidget* ObstetricSheetLayout::strip(const Strip& parts) {
+    ExamStrip strip(bind_, ExamStrip::Ground::Window);
+    strip.identity(sheet_.LblNom, sheet_.LblPrenom, sheet_.LblNumInt);
+    const QString number = QStringLiteral("Echographie N°");
+    const QString date = QStringLiteral("Date de l'Examen");
+    strip.value(number, narrow(sheet_.TxtNumEcho, number, 3));
+    if (parts.number) {
+        strip.add(bind_.label(*parts.number));
+    }
+    strip.value(date, narrow(sheet_.examDate, date, 10));
+    if (parts.kind) {
+        strip.value(QStringLiteral("Type"), narrow(*parts.kind, QStringLiteral("Type"), 2));
+    }
+    strip.value(QStringLiteral("Appareil"), bind_.label(sheet_.LblMachine));
+    strip.value(QStringLiteral("en service"), bind_.label(sheet_.LblDateCirc));
+    if (!parts.mode.isEmpty()) {
+        auto* mode = new QLabel(parts.mode);
+        mode->setFont(theme::headingFont());
+        mode->setContentsMargins(2 * kGrid, 0, 0, 0);
+        strip.add(mode);
+    }
+    strip.nextLine();
+    return dating(parts, strip);
+}
+
+QWidget* ObstetricSheetLayout::dating(const Strip& parts, ExamStrip& strip) {
+    using namespace exams::sheet_fields;
+    for (const int date : {kLastPeriod, kTheoreticalStart, kUltrasoundStart}) {
+        strip.value(caption(date), narrow(sheet_.fields(date), caption(date), 10));
+    }
+    if (parts.ultrasound) {
+        strip.add(bind_.button(*parts.ultrasound));
+    }
+    const QString age = QStringLiteral("Age Gestationnel");
+    if (parts.age->kind() == forms::Kind::TextBox) {
+        strip.value(age, narrow(static_cast<forms::TextBox&>(*parts.age), age, 5));
+    } else {
+        strip.value(age, bind_.label(static_cast<forms::Label&>(*parts.age)));
+    }
+    strip.value(QStringLiteral("Poids"), narrow(sheet_.TxtPds, QStringLiteral("Poids"), 4));
+    strip.value(QStringLiteral("Taille"), narrow(sheet_.TxtTaille, QStringLiteral("Taille"), 4));
+    strip.value(caption(kBodyMass), narrow(sheet_.fields(kBodyMass), caption(kBodyMass), 5));
+    return strip.widget();
+}
+
+QWidget* ObstetricSheetLayout::columns(const std::function<QLayout*()>& left, const std::function<QLayout*()>& right) {
+    auto* sheet = new QWidget;
+    auto* columns = newRow(sheet);
+    columns->setSpacing(2 * kGrid);
+    columns->addLayout(left(), 1);
+    columns->addLayout(right(), 1);
+    return scrolling(sheet);
+}
+
+QString ObstetricSheetLayout::caption(int index) const {
+    return std::ranges::find(rows_, index, &responses::ExamField::index)->caption.toString();
+}
+
+QWidget* ObstetricSheetLayout::field(int index) {
+    QWidget* widget = nullptr;
+    if (longTexts_.contains(index)) {
+        widget = bind_.memo(sheet_.fields(index), caption(index));
+        widget->setMinimumHeight(kMemoHeight);
+    } else {
+        widget = bind_.line(sheet_.fields(index), caption(index));
+    }
+    walkOnAtEnter(widget);
+    return widget;
+}
+
+QLineEdit* ObstetricSheetLayout::narrow(forms::TextBox& box, const QString& name, int characters) {
+    return narrowLine(bind_, box, name, characters);
+}
+
+void ObstetricSheetLayout::addRows(QFormLayout* rows, std::initializer_list<int> indexes) {
+    for (const int index : indexes) {
+        rows->addRow(caption(index), field(index));
+    }
+}
+
+QWidget* ObstetricSheetLayout::multiplePanel() {
+    return qt::multiplePanel(bind_, sheet_.Frame5, {&sheet_.CmdJ1, &sheet_.CmdJ2, &sheet_.CmdJ3});
+}
+
+void ObstetricSheetLayout::pressWithAlt(Qt::Key letter, const forms::Button& button) {
+    static_cast<QPushButton*>(window_.widgetOf(button))->setShortcut(QKeyCombination(Qt::AltModifier, letter));
+}
+
+void ObstetricSheetLayout::putAside(std::initializer_list<forms::TextControl*> controls) {
+    auto* spare = new QWidget(&window_);
+    auto* row = newRow(spare);
+    for (forms::TextControl* control : controls) {
+        if (control->kind() == forms::Kind::TextBox) {
+            row->addWidget(bind_.line(static_cast<forms::TextBox&>(*control), control->name()));
+        } else {
+            row->addWidget(bind_.label(static_cast<forms::Label&>(*control)));
+        }
+    }
+    spare->hide();
+}
+
+}  // namespace qt
