@@ -69,6 +69,7 @@ class Tour:
         self.exam()
         self.report()
         self.gynaecology()
+        self.later_exam()
 
     def sheets(self):
         self.port.click("Form4.CmdModifie")
@@ -123,6 +124,25 @@ class Tour:
         self.picture("Form17", "gynecologie-correction")
         self.port.click("Form17.CmdQuitter")
         self.port.click("Form18.CmdQuitter")
+
+    def later_exam(self):
+        self.port.set("Form4.Text1", text="GUÉRIN")
+        self.port.click("Form4.Cmd2Ter")
+        self.port.set("Form8.Txt2T(2)", text="10/01/2002")
+        self.port.click("Form8.Bourgeois")
+        self.port.click("Form8.Option2")
+        self.port.click("Form8.CmdJ1")
+        self.port.click("Form8.CmdZoneA")
+        self.port.focus("Form8.Txt2T(16)")
+        self.picture("Form8", "examen-tardif-redaction")
+        self.port.click("Form8.Perso")
+        self.port.click("Form8.CmdQuitter")
+        self.port.click("Form4.HlbCptDer")
+        self.picture("Form10", "examen-tardif")
+        self.port.click("Form10.CmdModifs")
+        self.picture("Form11", "examen-tardif-correction")
+        self.port.click("Form11.CmdQuitter")
+        self.port.click("Form10.CmdQuitter")
 
     def end(self):
         self.port.end()
