@@ -176,6 +176,39 @@ QString histories() {
     });
 }
 
+QString classedPictures() {
+    static const QStringList kDiagnoses{
+        u"Normal"_qs,          u"Grossesse gémellaire"_qs, u"Clarté nucale augmentée"_qs,
+        u"Macrosomie"_qs,      u"Retard de croissance"_qs, u"Cardiopathie"_qs,
+        u"Fibrome utérin"_qs,  u"Kyste de l'ovaire"_qs,    u"Endométriome"_qs,
+        u"Placenta praevia"_qs};
+    static const QStringList kWords{u"Coeur"_qs, u"Reins"_qs, u"Ovaire droit"_qs, u"Axiale"_qs, u"À revoir"_qs};
+    std::mt19937 random(12);
+    const auto any = [&random](const QStringList& words) {
+        return words[static_cast<qsizetype>(random() % static_cast<unsigned>(words.size()))].toUtf8();
+    };
+    return made(u"ECHOTEK-CLASSED.MDB"_qs, FileKind::Echotek, u"ECHOS"_qs, kClassedPictures,
+                [&random, any](int record, const Field& field) {
+                    const QByteArray number = QByteArray::number(record + 1);
+                    if (field.kind == FieldKind::Number) {
+                        return number;
+                    }
+                    if (field.name == u"NOMFICH"_qs || field.name == u"NOMPATH"_qs) {
+                        return (field.name == u"NOMPATH"_qs ? "/srv/veranox/VIDEOTEK/" : "") + number + ".jpg";
+                    }
+                    if (field.name == u"DATEXAM"_qs) {
+                        return QByteArray("16/04/") + QByteArray::number(1990 + record / 8000);
+                    }
+                    if (field.name == u"Typexam"_qs) {
+                        return QByteArray::number(record % 4 + 1);
+                    }
+                    if (field.name == u"DIAGNO"_qs) {
+                        return any(kDiagnoses);
+                    }
+                    return field.name.startsWith(u"CRIT"_qs) ? any(kWords) : invented(random, 3).toUtf8();
+                });
+}
+
 QString album() {
     std::mt19937 random(10);
     return made(u"ECHOTEK.MDB"_qs, FileKind::Echotek, u"ECHOS"_qs, kPictures,

@@ -14,6 +14,7 @@ inline constexpr int kPictures = 20000;
 /// The stored responses of a rubric, and those of the indications and of the uterus.
 inline constexpr int kPhrases = 20;
 inline constexpr int kManyPhrases = 500;
+inline constexpr int kClassedPictures = 100000;
 
 /// A place for a file in that folder.
 QString place(const QString& name);
@@ -31,6 +32,8 @@ QString dateOfExam(int number);
 QString histories();
 /// The path of ECHOTEK.MDB.
 QString album();
+/// The path of another album, of so many pictures classed with the words that a practice uses.
+QString classedPictures();
 
 /// A name of so many syllables.
 QString invented(std::mt19937& random, int syllables);

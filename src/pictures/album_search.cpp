@@ -1,31 +1,34 @@
 #include "pictures/album_search.h"
 
+#include <QStringBuilder>
+
 namespace pictures {
 namespace {
 
-using store::Recordset;
+// What a line shows of a picture, in the order of `kShown`.
+struct Shown {
+    const QString& number;
+    const QString& surname;
+    const QString& firstName;
+    const QString& date;
+    const QString& path;
+};
+const QStringList kShown{QStringLiteral("Numint"), QStringLiteral("Nom"), QStringLiteral("Prenom"),
+                         QStringLiteral("DATEXAM"), QStringLiteral("NOMPATH")};
 
-const QString kNumber = QStringLiteral("Numint");
-const QString kSurname = QStringLiteral("Nom");
-const QString kFirstName = QStringLiteral("Prenom");
-const QString kDate = QStringLiteral("DATEXAM");
-const QString kPath = QStringLiteral("NOMPATH");
+using Line = QString (*)(const Shown&);
 
-using Line = QString (*)(const Recordset&);
-
-QString numbered(const Recordset& row) {
-    return row.text(kNumber) + QStringLiteral("     ") + row.text(kSurname) + u' ' + row.text(kFirstName) + u' ' +
-           row.text(kDate) + QStringLiteral(" // ") + row.text(kPath);
+QString numbered(const Shown& picture) {
+    return picture.number % u"     " % picture.surname % u' ' % picture.firstName % u' ' % picture.date % u" // " %
+           picture.path;
 }
 
-const QString kGap = QStringLiteral("  ");
-
-QString dateFirst(const Recordset& row) {
-    return row.text(kDate) + kGap + row.text(kSurname) + kGap + row.text(kFirstName);
+QString dateFirst(const Shown& picture) {
+    return picture.date % u"  " % picture.surname % u"  " % picture.firstName;
 }
 
-QString nameFirst(const Recordset& row) {
-    return row.text(kSurname) + kGap + row.text(kFirstName) + kGap + row.text(kDate);
+QString nameFirst(const Shown& picture) {
+    return picture.surname % u"  " % picture.firstName % u"  " % picture.date;
 }
 
 struct Sorting {
@@ -43,16 +46,12 @@ const Sorting& sortingOf(SortedSearch by) {
     return kSortings.at(static_cast<std::size_t>(by));
 }
 
-FoundPictures collect(Recordset rows, const QString& criterion, Line line) {
+FoundPictures collect(const store::Recordset& rows, Line line) {
     FoundPictures found;
-    rows.findFirst(criterion);
-    if (rows.noMatch()) {
-        return found;
-    }
-    for (rows.moveFirst(); !rows.eof(); rows.moveNext()) {
-        found.lines << line(rows);
-        found.paths << rows.text(kPath);
-    }
+    rows.eachRow(kShown, [&](const QStringList& texts) {
+        found.lines << line({texts[0], texts[1], texts[2], texts[3], texts[4]});
+        found.paths << texts[4];
+    });
     return found;
 }
 
@@ -72,15 +71,14 @@ QString queryText(const AlbumSearch& wanted) {
 }
 
 FoundPictures search(const AlbumBase& base, const AlbumSearch& wanted) {
-    return collect(base.open(queryText(wanted)), holds(u"NOMFICH", QStringLiteral("*")), numbered);
+    return collect(base.open(queryText(wanted)), numbered);
 }
 
 FoundPictures search(const AlbumBase& base, SortedSearch by, const QString& text) {
     const Sorting& sorting = sortingOf(by);
-    const QString condition = holds(sorting.field, text);
-    return collect(base.open(QStringLiteral("SELECT*FROM ECHOS WHERE ") + condition + QStringLiteral(" ORDER BY ") +
-                             sorting.order.toString()),
-                   condition, sorting.line);
+    return collect(base.open(QStringLiteral("SELECT*FROM ECHOS WHERE ") + holds(sorting.field, text) +
+                             QStringLiteral(" ORDER BY ") + sorting.order.toString()),
+                   sorting.line);
 }
 
 }  // namespace pictures

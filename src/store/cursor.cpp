@@ -314,4 +314,22 @@ int Cursor::recordCount() {
     return statement.step() ? static_cast<int>(statement.number(0)) : 0;
 }
 
+void Cursor::eachRow(const QStringList& fields, const std::function<void(const QStringList&)>& visit) {
+    database();
+    std::vector<int> places;
+    for (const QString& field : fields) {
+        places.push_back(placeOf(field));
+    }
+    Statement& statement = shape_->rows();
+    statement.bindAll(1, literals_);
+    QStringList texts(fields.size());
+    for (const Run run(statement); statement.step();) {
+        for (qsizetype i = 0; i < texts.size(); ++i) {
+            const int place = places[static_cast<std::size_t>(i)];
+            texts[i] = textOf(statement, place + 1, fieldAt(place).kind);
+        }
+        visit(texts);
+    }
+}
+
 }  // namespace store

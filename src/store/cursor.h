@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -34,6 +35,7 @@ public:
     void update();
     void remove();
     int recordCount();
+    void eachRow(const QStringList& fields, const std::function<void(const QStringList&)>& visit);
 
 private:
     enum class State { Fresh, OnRow, Deleted, AtBegin, AtEnd, Empty };

@@ -84,6 +84,10 @@ void Recordset::remove() {
     cursor().remove();
 }
 
+void Recordset::eachRow(const QStringList& fields, const std::function<void(const QStringList&)>& visit) const {
+    cursor().eachRow(fields, visit);
+}
+
 int Recordset::recordCount() const {
     return cursor().recordCount();
 }

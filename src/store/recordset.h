@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <functional>
 #include <memory>
 
 #include "store/value.h"
@@ -72,6 +73,11 @@ public:
 
     /// The number of rows that the query has now.
     int recordCount() const;
+
+    /// Reads all rows that the query has now, in its order, in one pass, and hands on the texts of these fields for
+    /// each. For lists of many rows: to walk there takes a statement a row. The cursor stays where it is; `visit` may
+    /// not use the file. Throws UnknownField.
+    void eachRow(const QStringList& fields, const std::function<void(const QStringList& texts)>& visit) const;
 
 private:
     friend class Database;

@@ -54,4 +54,18 @@ Value toValue(const Bound& stored, FieldKind kind) {
     return {};
 }
 
+QString textOf(const Statement& statement, int column, FieldKind kind) {
+    switch (sqlite3_column_type(statement.handle(), column)) {
+        case SQLITE_INTEGER:
+            return QString::number(statement.number(column));
+        case SQLITE_FLOAT:
+            return toValue(sqlite3_column_double(statement.handle(), column), kind).text();
+        case SQLITE_TEXT:
+            return kind == FieldKind::Text ? statement.text(column)
+                                           : toValue(statement.text(column).toUtf8(), kind).text();
+        default:
+            return {};
+    }
+}
+
 }  // namespace store

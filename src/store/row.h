@@ -36,4 +36,7 @@ private:
 /// What a field of this kind shows for a stored value.
 Value toValue(const Bound& stored, FieldKind kind);
 
+/// The text of a field of this kind in the current row of a statement, null as nothing.
+QString textOf(const Statement& statement, int column, FieldKind kind);
+
 }  // namespace store

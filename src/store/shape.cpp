@@ -203,6 +203,10 @@ Statement& Shape::numbers() {
     return numbers_.isPrepared() ? numbers_ : prepared(numbers_, numbersSql());
 }
 
+Statement& Shape::rows() {
+    return rows_.isPrepared() ? rows_ : prepared(rows_, selectRow() + where({}) + orderBy(0, Direction::Forward));
+}
+
 Statement& Shape::amongNumbers(const QByteArray& criterion) {
     if (const auto found = amongNumbers_.constFind(criterion); found != amongNumbers_.cend()) {
         return **found;
@@ -223,7 +227,7 @@ void Shape::finalise() {
         seeks.clear();
     }
     amongNumbers_.clear();
-    for (Statement* statement : {&steps_[0], &steps_[1], &byNumber_, &numbers_, &count_}) {
+    for (Statement* statement : {&steps_[0], &steps_[1], &byNumber_, &numbers_, &rows_, &count_}) {
         *statement = Statement();
     }
 }

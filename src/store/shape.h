@@ -43,6 +43,8 @@ public:
     Statement& byNumber();
     /// The row numbers of the query in its order. Parameters: filter.
     Statement& numbers();
+    /// All rows of the query in its order. Parameters: filter.
+    Statement& rows();
     /// Which of `kBlock` row numbers meet the criterion. Parameters: the numbers, criterion.
     Statement& amongNumbers(const QByteArray& criterion);
     /// The number of rows. Parameters: filter.
@@ -85,6 +87,7 @@ private:
     std::array<Statement, 2> steps_;
     Statement byNumber_;
     Statement numbers_;
+    Statement rows_;
     Statement count_;
 };
 
