@@ -68,6 +68,7 @@ class Tour:
         self.sheets()
         self.exam()
         self.report()
+        self.biometry()
         self.gynaecology()
         self.later_exam()
 
@@ -101,6 +102,25 @@ class Tour:
         self.port.click("RicheT.tbToolBar(Imprimer)")
         self.port.click("RicheT.tbToolBar(Quitter)")
         self.port.click("Form6.CmdQuitter")
+
+    def biometry(self):
+        self.port.set("Form4.Text1", text="MARTINEAU")
+        self.port.set("Form4.Text2", text="ANNE")
+        self.port.click("Form4.HlbCptDer")
+        self.port.click("Form10.CmdBiometrie")
+        self.picture("Form12", "biometrie")
+        self.port.click("Form12.ReCalculer")
+        self.port.click("Form12.Command1")
+        self.port.click("Form12.Command2")
+        self.port.click("Form12.Rappel")
+        self.picture("Form12", "biometrie-rappel")
+        self.port.click("Form12.Courbe")
+        self.picture("Form13", "courbes")
+        for button in ["Bip", "Cc", "Dat", "Ca", "Fem", "Lp", "Cerv"]:
+            self.port.click(f"Form13.Command{button}")
+            self.picture("Form13", f"courbe-{button.lower()}")
+        self.port.click("Form12.Quitter")
+        self.port.click("Form10.CmdQuitter")
 
     def gynaecology(self):
         self.port.type("Form4.Text1", text="rossignol")

@@ -24,4 +24,8 @@ std::span<const double> percentilesOf(Measure measure);
 /// week has no such class. Weeks of the table without that boundary are left out.
 std::vector<CurvePoint> percentileCurve(Measure measure, double percentile);
 
+/// The same curve with a steady course, for drawing: at each whole week it lies where it parts the classes, so that no
+/// value of one class is drawn on the other side. Weeks without a boundary inside the curve are filled in.
+const std::vector<CurvePoint>& smoothCurve(Measure measure, double percentile);
+
 }  // namespace biometry

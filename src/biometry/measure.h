@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <array>
 #include <cstddef>
 
@@ -14,6 +15,9 @@ inline constexpr std::size_t kMeasureCount = 9;
 /// The measures that have a percentile table and a median.
 inline constexpr std::array<Measure, kClassifiedCount> kClassified{
     Measure::Bip, Measure::Cc, Measure::Dat, Measure::Ca, Measure::Fem, Measure::Pied, Measure::Hum, Measure::Cer};
+
+/// The name of a measure as headings have it: "Diamètre Bipariétal".
+QString measureName(Measure measure);
 
 constexpr std::size_t indexOf(Measure measure) {
     return static_cast<std::size_t>(measure);

@@ -9,6 +9,11 @@
 
 namespace biometry {
 
+/// The measures as the page has them, in reading order.
+inline constexpr std::array<Measure, kMeasureCount> kPageOrder{Measure::Bip, Measure::Cc,  Measure::Orb,
+                                                               Measure::Cer, Measure::Dat, Measure::Ca,
+                                                               Measure::Fem, Measure::Hum, Measure::Pied};
+
 /// The fetus whose panel is in view: 1 to 3 by panel (2 or 3 before 1, 3 before 2), 0 where the first panel shows and
 /// the count doesn't read above 1, or no panel shows.
 int fetusInView(const Exam& exam);

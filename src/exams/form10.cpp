@@ -1,6 +1,7 @@
 #include "exams/form10.h"
 
 #include "base/numbers.h"
+#include "biometry/form12.h"
 #include "exams/exam_record.h"
 #include "exams/form11.h"
 #include "exams/form6.h"
@@ -140,7 +141,7 @@ void Form10::wireSteps() {
     };
     Supprim.onClick = [this] { Supprime(); };
     CmdSupprime.onClick = [this] { Supprime(); };
-    Biometrie.onClick = [this] { desk().show(QStringLiteral("Form12")); };
+    Biometrie.onClick = [this] { biometry::showBiometry(desk()); };
     CmdBiometrie.onClick = [this] { Biometrie.click(); };
     imprimer.onClick = [this] { CptRendu2T(); };
     Command1.onClick = [this] { CptRendu2T(); };

@@ -35,6 +35,8 @@ QString kindName(Kind kind) {
             return QStringLiteral("RichText");
         case Kind::Calendar:
             return QStringLiteral("Calendar");
+        case Kind::Marker:
+            return QStringLiteral("Marker");
     }
     return {};
 }
@@ -81,6 +83,13 @@ bool Control::covered() const {
 void Control::setPlace(const Place& place) {
     if (place_ != place) {
         place_ = place;
+        tell(Aspect::Place);
+    }
+}
+
+void Control::moveTo(const Spot& spot) {
+    if (spot_ != spot) {
+        spot_ = spot;
         tell(Aspect::Place);
     }
 }

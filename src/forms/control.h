@@ -23,6 +23,7 @@ enum class Kind {
     Menu,
     ScrollBar,
     Image,
+    Marker,
     Calendar,
     RichText
 };
@@ -43,6 +44,7 @@ enum class Aspect {
     Selection,
     Focus,
     Colors,
+    Points,
     Place,
     LineWidth,
     Value,
@@ -56,6 +58,13 @@ struct Place {
     int width = 0;
     int height = 0;
     bool operator==(const Place&) const = default;
+};
+
+/// Where the top left corner of a control lies whose place is reckoned, in twips from that of its window.
+struct Spot {
+    float left = 0;
+    float top = 0;
+    bool operator==(const Spot&) const = default;
 };
 
 /// A character on its way into a text box. A key filter may let it be, put another in its place, or swallow it.
@@ -118,6 +127,9 @@ public:
     /// Where a step has put it; none if that is the layout's own matter.
     std::optional<Place> place() const { return place_; }
     void setPlace(const Place& place);
+    /// The same for a control that moves over a picture.
+    std::optional<Spot> spot() const { return spot_; }
+    void moveTo(const Spot& spot);
 
     /// Whether it and all that holds it is visible, not covered and enabled.
     bool reachable() const;
@@ -153,6 +165,7 @@ private:
     bool visible_ = true;
     bool enabled_ = true;
     std::optional<Place> place_;
+    std::optional<Spot> spot_;
     Observers<Aspect, int> observers_;
 };
 

@@ -33,6 +33,13 @@ void TextControl::recolor(std::optional<Color>& place, std::optional<Color> valu
     }
 }
 
+void TextControl::setPoints(int points) {
+    if (points_ != points) {
+        points_ = points;
+        tell(Aspect::Points);
+    }
+}
+
 void TextBox::select(int start, int length) {
     const int size = static_cast<int>(text().size());
     const int from = std::clamp(start, 0, size);
@@ -122,6 +129,20 @@ void ScrollBar::setValue(int value) {
 void Image::setPicture(const QImage& picture) {
     picture_ = picture;
     tell(Aspect::Picture);
+}
+
+void Image::setDrawing(const QString& name) {
+    if (drawing_ != name) {
+        drawing_ = name;
+        tell(Aspect::Picture);
+    }
+}
+
+void Marker::setColor(Color color) {
+    if (color_ != color) {
+        color_ = color;
+        tell(Aspect::Colors);
+    }
 }
 
 void Calendar::setDate(QDate date) {

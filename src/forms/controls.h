@@ -35,6 +35,10 @@ public:
     void setColor(std::optional<Color> color);
     void setBack(std::optional<Color> back);
 
+    /// The size of its text in points; none is the window's own.
+    std::optional<int> points() const { return points_; }
+    void setPoints(int points);
+
     std::function<void()> onChange;
 
 protected:
@@ -47,6 +51,7 @@ private:
     QString text_;
     std::optional<Color> color_;
     std::optional<Color> back_;
+    std::optional<int> points_;
 };
 
 class Label final : public TextControl {
@@ -260,6 +265,8 @@ public:
     int value() const { return value_; }
     /// Puts it on a number, or on the end of its range that is nearest. A number that differs fires `onChange` at once.
     void setValue(int value);
+    /// The number in digits.
+    QString text() const override { return QString::number(value_); }
 
     std::function<void()> onChange;
 
@@ -278,8 +285,31 @@ public:
     void setPicture(const QImage& picture);
     void clear() { setPicture({}); }
 
+    /// A drawing of this program in the place of a picture, by its name, which is its text too; empty for none.
+    const QString& drawing() const { return drawing_; }
+    void setDrawing(const QString& name);
+    QString text() const override { return drawing_; }
+
 private:
     QImage picture_;
+    QString drawing_;
+};
+
+/// A small square mark that steps move over a picture.
+class Marker final : public Control {
+public:
+    explicit Marker(Form& form, QString name, int index = -1) : Control(form, Kind::Marker, std::move(name), index) {}
+
+    /// Its width and height, in twips.
+    int side() const { return side_; }
+    void setSide(int twips) { side_ = twips; }
+
+    std::optional<Color> color() const { return color_; }
+    void setColor(Color color);
+
+private:
+    int side_ = 0;
+    std::optional<Color> color_;
 };
 
 /// A month of days, of which a person chooses one.

@@ -16,6 +16,7 @@
 #include "forms/desk.h"
 #include "forms/rich_text.h"
 #include "qt/calendar_view.h"
+#include "qt/drawing_view.h"
 #include "qt/page_view.h"
 #include "qt/picture_view.h"
 
@@ -123,6 +124,16 @@ private:
 QPoint clickPoint(const Target& target) {
     const bool marked = target.control->kind() == Kind::Option || target.control->kind() == Kind::Check;
     return marked ? QPoint(8, target.widget->height() / 2) : target.widget->rect().center();
+}
+
+// The size of what a place for pictures shows.
+QJsonValue pictureOf(const forms::Image& image, const QWidget* widget) {
+    const auto* drawing = dynamic_cast<const qt::DrawingView*>(widget);
+    const QSize size = drawing ? drawing->pictureSize() : image.picture().size();
+    if (size.isEmpty()) {
+        return QJsonValue::Null;
+    }
+    return QJsonObject{{QStringLiteral("width"), size.width()}, {QStringLiteral("height"), size.height()}};
 }
 
 }  // namespace
@@ -324,6 +335,9 @@ QJsonObject look(const Target& target) {
     if (const auto* text = dynamic_cast<const forms::TextControl*>(&control)) {
         tellColor(seen, QStringLiteral("color"), text->color());
         tellColor(seen, QStringLiteral("back"), text->back());
+        if (text->points()) {
+            seen[QStringLiteral("size")] = *text->points();
+        }
     }
     if (const auto* box = dynamic_cast<const forms::TextBox*>(&control)) {
         seen[QStringLiteral("selection")] = QJsonObject{{QStringLiteral("start"), box->selectionStart()},
@@ -338,11 +352,17 @@ QJsonObject look(const Target& target) {
         seen[QStringLiteral("min")] = bar->range().min;
         seen[QStringLiteral("max")] = bar->range().max;
     }
+    if (const auto* marker = dynamic_cast<const forms::Marker*>(&control)) {
+        tellColor(seen, QStringLiteral("color"), marker->color());
+        seen[QStringLiteral("width")] = marker->side();
+        seen[QStringLiteral("height")] = marker->side();
+    }
     if (const auto* image = dynamic_cast<const forms::Image*>(&control)) {
-        seen[QStringLiteral("picture")] =
-            image->empty() ? QJsonValue(QJsonValue::Null)
-                           : QJsonValue(QJsonObject{{QStringLiteral("width"), image->picture().width()},
-                                                    {QStringLiteral("height"), image->picture().height()}});
+        seen[QStringLiteral("picture")] = pictureOf(*image, target.widget);
+    }
+    if (const auto spot = control.spot()) {
+        seen[QStringLiteral("left")] = spot->left;
+        seen[QStringLiteral("top")] = spot->top;
     }
     if (const auto place = control.place()) {
         seen[QStringLiteral("left")] = place->left;

@@ -98,9 +98,9 @@ Server::Server(const QString& folder, QDate today)
         {QStringLiteral("rightclick"), [](const Target& t, const QJsonObject&) { hands::rightClick(t); }},
         {QStringLiteral("pick"),
          [](const Target& t, const QJsonObject& r) { hands::pick(t, r.value(u"date").toString()); }},
+        {QStringLiteral("choose"), hands::choose},
         {QStringLiteral("scroll"),
          [](const Target& t, const QJsonObject& r) { hands::scroll(t, r.value(u"value").toInt()); }},
-        {QStringLiteral("choose"), hands::choose},
     };
 }
 

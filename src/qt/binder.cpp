@@ -20,6 +20,7 @@
 
 #include "forms/desk.h"
 #include "qt/calendar_view.h"
+#include "qt/drawing_view.h"
 #include "qt/ink_icon.h"
 #include "qt/key_filter.h"
 #include "qt/list_model.h"
@@ -544,6 +545,19 @@ void Binder::addEntry(QWidget* parent, forms::Menu& control) {
             sync();
         }
     });
+}
+
+DrawingView* Binder::drawing(forms::Image& control, const QString& caption) {
+    auto* view = new DrawingView;
+    view->setAccessibleName(caption);
+    const auto sync = [&control, view](Aspect aspect, int) {
+        if (aspect == Aspect::Picture) {
+            view->setDrawing(control.drawing());
+        }
+    };
+    window_.bind(control, view, sync);
+    sync(Aspect::Picture, -1);
+    return view;
 }
 
 QWidget* Binder::plain(forms::Control& control, QWidget* widget) {

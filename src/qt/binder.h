@@ -24,6 +24,7 @@ namespace qt {
 
 class PageView;
 class CalendarView;
+class DrawingView;
 class PictureView;
 class Section;
 
@@ -56,6 +57,8 @@ public:
     Section* section(forms::Frame& control);
     /// The menu bar of the window, from all its menus: those that no other holds stand on the bar.
     QMenuBar* menuBar();
+    /// A place for one of the program's line drawings.
+    DrawingView* drawing(forms::Image& control, const QString& caption);
     /// A frame without a caption, or a picture, as the plain widget that the layout gives it.
     QWidget* plain(forms::Control& control, QWidget* widget);
 

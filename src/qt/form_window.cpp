@@ -9,6 +9,7 @@
 
 #include "forms/controls.h"
 #include "forms/desk.h"
+#include "qt/theme.h"
 
 namespace qt {
 namespace {
@@ -35,17 +36,26 @@ void FormWindow::bind(forms::Control& control, QWidget* widget, std::function<vo
     if (!control.visible() || !widget->isWindow()) {
         widget->setVisible(control.visible());
     }
+    if (const auto* text = dynamic_cast<const forms::TextControl*>(&control);
+        text && (text->color() || text->back() || text->points())) {
+        syncLook(*text, widget);
+    }
     subscriptions_.push_back(control.observe([this, &control, widget, sync](forms::Aspect aspect, int index) {
         if (aspect == forms::Aspect::Visible || aspect == forms::Aspect::Enabled) {
             syncState(control, widget);
         } else if (aspect == forms::Aspect::Focus) {
             widget->setFocus(Qt::OtherFocusReason);
-        } else if (aspect == forms::Aspect::Colors) {
-            syncColors(static_cast<const forms::TextControl&>(control), widget);
+        } else if (const auto* text = dynamic_cast<const forms::TextControl*>(&control);
+                   text && (aspect == forms::Aspect::Colors || aspect == forms::Aspect::Points)) {
+            syncLook(*text, widget);
         } else {
             sync(aspect, index);
         }
     }));
+}
+
+void FormWindow::alsoBind(forms::Control& control, std::function<void(forms::Aspect, int)> sync) {
+    subscriptions_.push_back(control.observe(std::move(sync)));
 }
 
 void FormWindow::bind(forms::Control& control, QAction* action, std::function<void()> sync) {
@@ -140,7 +150,12 @@ void FormWindow::syncState(forms::Control& control, QWidget* widget) {
     widget->setEnabled(control.enabled());
 }
 
-void FormWindow::syncColors(const forms::TextControl& control, QWidget* widget) {
+void FormWindow::syncLook(const forms::TextControl& control, QWidget* widget) {
+    if (control.points()) {
+        QFont font = widget->font();
+        font.setPointSize(*control.points());
+        widget->setFont(font);
+    }
     QPalette palette;
     if (control.back()) {
         const QColor back = QColor::fromRgb(*control.back());
@@ -153,8 +168,9 @@ void FormWindow::syncColors(const forms::TextControl& control, QWidget* widget) 
         }
     }
     if (control.color()) {
-        palette.setColor(QPalette::WindowText, QColor::fromRgb(*control.color()));
-        palette.setColor(QPalette::Text, QColor::fromRgb(*control.color()));
+        const QColor text = theme::readable(QColor::fromRgb(*control.color()), palette.color(QPalette::Window));
+        palette.setColor(QPalette::WindowText, text);
+        palette.setColor(QPalette::Text, text);
     }
     widget->setAutoFillBackground(control.back().has_value());
     widget->setPalette(palette);

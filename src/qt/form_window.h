@@ -24,6 +24,8 @@ public:
 
     /// Makes a widget the view of a control: it takes the control's name, and its state from now on.
     void bind(forms::Control& control, QWidget* widget, std::function<void(forms::Aspect, int)> sync);
+    /// Tells what else of a bound control changes.
+    void alsoBind(forms::Control& control, std::function<void(forms::Aspect, int)> sync);
     /// Makes an entry of the menu bar the view of a control.
     void bind(forms::Control& control, QAction* action, std::function<void()> sync);
     /// The menu entry that shows a control, null if none does.
@@ -51,7 +53,7 @@ protected:
 
 private:
     void syncState(forms::Control& control, QWidget* widget);
-    void syncColors(const forms::TextControl& control, QWidget* widget);
+    void syncLook(const forms::TextControl& control, QWidget* widget);
     void showFocus();
     void standInFrontOf(const QWidget* behind);
 

@@ -3,6 +3,7 @@
 #include <map>
 
 #include "qt/layouts/album_layout.h"
+#include "qt/layouts/biometry_layouts.h"
 #include "qt/layouts/dossier_layouts.h"
 #include "qt/layouts/exam_layouts.h"
 #include "qt/layouts/gynaecology_layouts.h"
@@ -37,6 +38,8 @@ Layout layoutOf(const QString& form) {
         entry(layOutForm9),
         entry(layOutForm10),
         entry(layOutForm11),
+        entry(layOutForm12),
+        entry(layOutForm13),
         entry(layOutForm14),
         entry(layOutForm15),
         entry(layOutForm16),

@@ -8,6 +8,8 @@
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleOption>
+#include <algorithm>
+#include <cmath>
 
 // A static library hands over its resources only when asked to.
 static void loadArtwork() {
@@ -52,6 +54,17 @@ public:
         }
     }
 };
+
+// As the contrast of texts is reckoned for readers with weak sight.
+double luminance(const QColor& colour) {
+    const auto linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other) {
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
+    return (light + 0.05) / (dark + 0.05);
+}
 
 QPalette paletteOf(QColor window, QColor base, QColor text, QColor accent) {
     QPalette palette(window, window);
@@ -105,6 +118,12 @@ QPalette wantedPalette() {
 
 }  // namespace
 
+QColor mixed(const QColor& colour, const QColor& other, double part) {
+    const auto mix = [part](double from, double to) { return static_cast<float>(from + (to - from) * part); };
+    return QColor::fromRgbF(mix(colour.redF(), other.redF()), mix(colour.greenF(), other.greenF()),
+                            mix(colour.blueF(), other.blueF()));
+}
+
 void apply(QApplication& application) {
     loadArtwork();
     QApplication::setStyle(new FocusFrameStyle(QStringLiteral("Fusion")));
@@ -117,6 +136,16 @@ void apply(QApplication& application) {
 
 bool isDark() {
     return QApplication::palette().color(QPalette::Window).lightness() < 128;
+}
+
+QColor readable(QColor text, const QColor& behind) {
+    constexpr double kLeastContrast = 4.5;
+    constexpr int kSteps = 20;
+    const QColor towards = luminance(behind) < 0.2 ? Qt::white : Qt::black;
+    for (int step = 0; step < kSteps && contrast(text, behind) < kLeastContrast; ++step) {
+        text = mixed(text, towards, 0.1);
+    }
+    return text;
 }
 
 QFont sectionFont() {

@@ -18,6 +18,12 @@ void apply(QApplication& application);
 /// Whether the palette in use is a dark one.
 bool isDark();
 
+/// A colour with a part (0 to 1) of another in it.
+QColor mixed(const QColor& colour, const QColor& other, double part);
+
+/// A colour of text that stands out from what is behind it: the same, made lighter or darker as far as need be.
+QColor readable(QColor text, const QColor& behind);
+
 QFont sectionFont();
 /// For composed lines that align by blanks.
 QFont fixedFont();

@@ -2,6 +2,8 @@
 
 #include <memory>
 
+#include "biometry/form12.h"
+#include "biometry/form13.h"
 #include "dossier/form2.h"
 #include "dossier/form3.h"
 #include "dossier/form4.h"
@@ -44,6 +46,9 @@ void Program::addWindows() {
     desk_.add(QStringLiteral("Form8"), [this] { return std::make_unique<exams::Form8>(obstetric_); });
     desk_.add(QStringLiteral("Form11"), [this] { return std::make_unique<exams::Form11>(obstetric_); });
     desk_.add(QStringLiteral("Form10"), [this] { return std::make_unique<exams::Form10>(obstetric_); });
+    desk_.add(QStringLiteral("Form12"),
+              [this] { return std::make_unique<biometry::Form12>(around_, state_, laterExam_); });
+    desk_.add(QStringLiteral("Form13"), [this] { return std::make_unique<biometry::Form13>(desk_); });
     desk_.add(QStringLiteral("Form14"), [this] { return std::make_unique<Form14>(desk_); });
     desk_.add(QStringLiteral("Form15"), [this] { return std::make_unique<Form15>(desk_); });
     desk_.add(QStringLiteral("Form16"), [this] { return std::make_unique<gyneco::Form16>(gynaecology_); });

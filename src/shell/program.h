@@ -5,6 +5,7 @@
 #include "forms/desk.h"
 #include "gyneco/gynaecology_exams.h"
 #include "ports/surroundings.h"
+#include "shell/later_exam_in_view.h"
 #include "store/state.h"
 
 namespace shell {
@@ -33,6 +34,7 @@ private:
     ports::Surroundings around_;
     exams::ExamLife examLife_{around_, state_};
     exams::ObstetricExams obstetric_{examLife_};
+    LaterExamInView laterExam_{desk_};
     gyneco::GynaecologyExams gynaecology_{examLife_};
 };
 

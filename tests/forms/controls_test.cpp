@@ -171,6 +171,39 @@ TEST_F(Controls, APlaceForAPictureIsEmptyAtFirstAndWhenCleared) {
     EXPECT_EQ(told, 2);
 }
 
+TEST_F(Controls, APlaceForAPictureTellsItsDrawingByName) {
+    int told = 0;
+    const Subscription view = form_.Image1.observe([&](Aspect aspect, int) { told += aspect == Aspect::Picture; });
+    form_.Image1.setDrawing("femur");
+    form_.Image1.setDrawing("femur");
+    EXPECT_EQ(form_.Image1.text(), "femur");
+    EXPECT_EQ(told, 1);
+}
+
+TEST_F(Controls, AMarkerKeepsItsSpotToTheFractionOfATwip) {
+    QList<Aspect> told;
+    const Subscription view = form_.Marker1.observe([&](Aspect aspect, int) { told << aspect; });
+    EXPECT_FALSE(form_.Marker1.spot().has_value());
+    form_.Marker1.moveTo({3990.1724F, 1205});
+    form_.Marker1.moveTo({3990.1724F, 1205});
+    form_.Marker1.setColor(0xE00000);
+    form_.Marker1.setColor(0xE00000);
+    EXPECT_EQ(form_.Marker1.spot(), (Spot{3990.1724F, 1205}));
+    EXPECT_EQ(form_.Marker1.color(), Color(0xE00000));
+    EXPECT_EQ(kindName(form_.Marker1.kind()), "Marker");
+    EXPECT_EQ(told, QList<Aspect>({Aspect::Place, Aspect::Colors}));
+}
+
+TEST_F(Controls, ALabelTellsAnotherSizeOfItsTextOnce) {
+    QList<Aspect> told;
+    const Subscription view = form_.Label1.observe([&](Aspect aspect, int) { told << aspect; });
+    EXPECT_FALSE(form_.Label1.points().has_value());
+    form_.Label1.setPoints(10);
+    form_.Label1.setPoints(10);
+    EXPECT_EQ(form_.Label1.points(), 10);
+    EXPECT_EQ(told, QList<Aspect>({Aspect::Points}));
+}
+
 TEST(KeyPress, KeepsReplacesOrSwallowsItsCharacter) {
     KeyPress key(u'a');
     EXPECT_EQ(key.character(), u'a');

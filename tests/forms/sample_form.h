@@ -28,6 +28,7 @@ public:
     Calendar Calendar1{*this, "Calendar1"};
     ScrollBar Scroll1{*this, "Scroll1", {.min = 1, .max = 100, .largeStep = 10}, 90};
     Image Image1{*this, "Image1"};
+    Marker Marker1{*this, "Marker1"};
     Array<TextBox> Texts{*this, "Texts", 0, 3};
     Array<Frame> Lone{*this, "Lone", 3, 3};
 

@@ -1,0 +1,241 @@
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QPainter>
+#include <algorithm>
+#include <span>
+
+#include "biometry/chart_painter.h"
+#include "biometry/chart_words.h"
+#include "biometry/curves.h"
+#include "biometry/reference.h"
+#include "biometry/sample_exam.h"
+#include "biometry/sheet.h"
+
+namespace {
+
+using namespace biometry;
+
+constexpr std::array kAllCharts{Chart::PageBip, Chart::PageCa, Chart::PageFem, Chart::Bip,  Chart::Cc,
+                                Chart::Dat,     Chart::Ca,     Chart::Fem,     Chart::Pied, Chart::Cer};
+
+/// Device pixels a twip, as on a screen.
+constexpr double kScale = 1.0 / 15;
+
+QImage drawn(Chart chart, const Ink& ink) {
+    QImage image(800, 620, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(kScale, kScale);
+    paintChart(painter, chart, ink);
+    return image;
+}
+
+Ink onlyCurves() {
+    return {.ground = Qt::white,
+            .text = Qt::white,
+            .grid = Qt::white,
+            .fineGrid = Qt::white,
+            .curve = Qt::white,
+            .median = Qt::black};
+}
+
+bool dark(const QImage& image, QPointF twips) {
+    return qGray(image.pixel((twips * kScale).toPoint())) < 128;
+}
+
+TEST(SmoothCurve, LeavesEachValueOfAClassOnItsOwnSide) {
+    for (const Measure measure : kClassified) {
+        for (const double percentile : percentilesOf(measure)) {
+            for (const CurvePoint& raw : percentileCurve(measure, percentile)) {
+                const auto& smooth = smoothCurve(measure, percentile);
+                const auto at = std::ranges::find(smooth, raw.week, &CurvePoint::week);
+                ASSERT_NE(at, smooth.end());
+                const ReferenceRow row = *referenceRow(measure, raw.week);
+                for (const tables::Range& range : row.classes) {
+                    if (range.isEmpty()) {
+                        continue;
+                    }
+                    if (range.last < raw.millimetres) {
+                        EXPECT_GT(at->millimetres, range.last) << indexOf(measure) << " " << raw.week;
+                    } else if (range.first > raw.millimetres) {
+                        EXPECT_LT(at->millimetres, range.first) << indexOf(measure) << " " << raw.week;
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST(SmoothCurve, BendsLessThanTheReference) {
+    const auto bends = [](const std::vector<CurvePoint>& curve) {
+        double sum = 0;
+        for (std::size_t i = 1; i + 1 < curve.size(); ++i) {
+            sum += std::abs(curve[i - 1].millimetres - 2 * curve[i].millimetres + curve[i + 1].millimetres);
+        }
+        return sum;
+    };
+    for (const Measure measure : kClassified) {
+        EXPECT_LT(bends(smoothCurve(measure, 50)), 0.6 * bends(percentileCurve(measure, 50))) << indexOf(measure);
+    }
+}
+
+TEST(SmoothCurve, FillsTheWeekWithoutABoundary) {
+    EXPECT_EQ(percentileCurve(Measure::Fem, 97).size(), 28U);
+    EXPECT_EQ(smoothCurve(Measure::Fem, 97).size(), 29U);
+    EXPECT_TRUE(smoothCurve(Measure::Orb, 50).empty());
+}
+
+TEST(SmoothCurve, NeverCrossesItsNeighbour) {
+    for (const Measure measure : kClassified) {
+        const auto known = percentilesOf(measure);
+        for (std::size_t i = 0; i + 1 < known.size(); ++i) {
+            for (const CurvePoint& low : smoothCurve(measure, known[i])) {
+                for (const CurvePoint& high : smoothCurve(measure, known[i + 1])) {
+                    EXPECT_FALSE(low.week == high.week && low.millimetres >= high.millimetres)
+                        << indexOf(measure) << " " << low.week;
+                }
+            }
+        }
+    }
+}
+
+TEST(ChartDrawing, LiesHalfAMarkerFromThePointOfTheMarkersCorner) {
+    EXPECT_EQ(spot(Chart::PageBip, 13, 0), QPointF(138 + 52.5, 8610 + 52.5));
+    EXPECT_EQ(spot(Chart::Bip, 13, 0), QPointF(1855 + 120, 6195 + 120));
+}
+
+TEST(ChartDrawing, HasTheMedianWhereItsValuesLie) {
+    for (const Chart chart : {Chart::Bip, Chart::Cc, Chart::Dat, Chart::Ca, Chart::Fem, Chart::Pied, Chart::Cer}) {
+        const QImage image = drawn(chart, onlyCurves());
+        const auto& curve = smoothCurve(geometry(chart).measure, 50);
+        // Not at its flat ends.
+        for (const CurvePoint& at : std::span(curve).subspan(1, curve.size() - 2)) {
+            EXPECT_TRUE(dark(image, spot(chart, at.week, at.millimetres)))
+                << indexOf(geometry(chart).measure) << at.week;
+            EXPECT_FALSE(dark(image, spot(chart, at.week, at.millimetres) - QPointF(0, 150)));
+        }
+    }
+}
+
+TEST(ChartDrawing, StaysInsideWhatItSaysItCovers) {
+    for (const Chart chart : kAllCharts) {
+        QImage image(800, 620, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.scale(kScale, kScale);
+        paintChart(painter, chart, paperInk());
+        const QRectF covered = drawing(chart).adjusted(-15, -15, 15, 15);
+        int outside = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                outside += image.pixelColor(x, y) != Qt::white && !covered.contains(QPointF(x, y) / kScale);
+            }
+        }
+        EXPECT_EQ(outside, 0) << static_cast<int>(chart);
+        EXPECT_TRUE(covered.contains(plot(chart)));
+    }
+}
+
+TEST(ChartDrawing, TheThreeOfThePageDontCoverOneAnothersGrid) {
+    EXPECT_LT(plot(Chart::PageBip).right(), plot(Chart::PageCa).left());
+    EXPECT_LT(plot(Chart::PageCa).right(), plot(Chart::PageFem).left());
+}
+
+TEST(ChartDrawing, ReachesTheTopOfItsSpanAndTheFirstWeek) {
+    EXPECT_EQ(plot(Chart::PageCa).left(), 4095 + 52.5);
+    EXPECT_EQ(plot(Chart::PageBip).top(), 4155 + 52.5);
+    EXPECT_EQ(plot(Chart::Bip).top(), 1205 + 120);
+    EXPECT_EQ(plot(Chart::Bip).bottom(), 6195 + 120);
+}
+
+TEST(ChartDrawing, MarksItsPointInTheMiddleOfTheMarker) {
+    QImage image(800, 620, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(kScale, kScale);
+    paintMarker(painter, point(Chart::PageBip, 22, 53), Qt::black, Qt::black);
+    paintCross(painter, point(Chart::Bip, 30, 90), Qt::black);
+    painter.end();
+    EXPECT_TRUE(dark(image, spot(Chart::PageBip, 22, 53)));
+    EXPECT_TRUE(dark(image, spot(Chart::Bip, 30, 90)));
+    EXPECT_FALSE(dark(image, spot(Chart::PageBip, 22, 53) + QPointF(90, 0)));
+}
+
+TEST(CurveAt, TellsTheNearestCurveAtTheNearestWeek) {
+    EXPECT_EQ(curveAt(Chart::Bip, spot(Chart::Bip, 22, 53.5), 60), (OnCurve{50, 22, 53.5}));
+    EXPECT_EQ(curveAt(Chart::Bip, spot(Chart::Bip, 22, 59.5), 60), (OnCurve{97, 22, 59.5}));
+    EXPECT_EQ(curveAt(Chart::PageBip, spot(Chart::PageBip, 22, 47.5), 60), (OnCurve{3, 22, 47.5}));
+}
+
+TEST(CurveAt, TellsNothingFarFromAllCurves) {
+    EXPECT_EQ(curveAt(Chart::Bip, spot(Chart::Bip, 22, 90), 60), std::nullopt);
+    EXPECT_EQ(curveAt(Chart::Bip, spot(Chart::Bip, 42, 95), 60), std::nullopt);
+    EXPECT_EQ(curveAt(Chart::Bip, spot(Chart::Bip, 10, 20), 60), std::nullopt);
+}
+
+TEST(CurveAt, IsToldInWords) {
+    EXPECT_EQ(tip({50, 22, 53.5}), "22 SA : 53,5 mm (50 ème percentile)");
+    EXPECT_EQ(tip({2.5, 30, 43}), "30 SA : 43 mm (2,5 ème percentile)");
+}
+
+TEST(ChartWords, TellThePresentMeasureAndTheRecalledOnes) {
+    EXPECT_EQ(chartWords("22", "53", "50 ème Percentile", {}, {}), "22 SA, 53 mm, 50 ème Percentile");
+    EXPECT_EQ(chartWords("22", "53", "", {"18,3", "22"}, {"41", "53"}),
+              "22 SA, 53 mm ; rappel 18,3 SA, 41 mm ; rappel 22 SA, 53 mm");
+}
+
+TEST(ChartWords, LeaveOutWhatHasNoPoint) {
+    EXPECT_EQ(chartWords("", "53", "50 ème Percentile", {"", "22"}, {"41", "x"}), "");
+    EXPECT_EQ(chartWords("", "", "", {"1", "2", "3", "4", "5", "6", "7"}, {"1", "2", "3", "4", "5", "6", "7"})
+                  .count("rappel"),
+              6);
+}
+
+/// What of a page of paper bears ink, in millimetres.
+QRectF inked(const QImage& page, double pixelsPerMillimetre) {
+    QRect bounds;
+    for (int y = 0; y < page.height(); ++y) {
+        for (int x = 0; x < page.width(); ++x) {
+            if (page.pixelColor(x, y) != Qt::white) {
+                bounds |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return {bounds.x() / pixelsPerMillimetre, bounds.y() / pixelsPerMillimetre, bounds.width() / pixelsPerMillimetre,
+            bounds.height() / pixelsPerMillimetre};
+}
+
+Sheet fullSheet() {
+    Sheet sheet{page(sampleExam(), 2, QDate(2002, 6, 14)), {}, Retried(), std::vector<RecalledExam>()};
+    for (int i = 0; i < 8; ++i) {
+        sheet.recalled->push_back({"21/05/2002", QString::number(i), "22", "53", "173", "38"});
+    }
+    sheet.points.push_back({point(Chart::PageFem, 41, 80), 0xE00000});
+    return sheet;
+}
+
+TEST(PrintedPage, KeepsClearOfTheEdgesOfThePaper) {
+    constexpr int kDpi = 100;
+    for (const int offset : {0, 40}) {
+        const ports::PageGeometry paper{.width = 11906,
+                                        .height = 16838,
+                                        .dpiX = kDpi,
+                                        .dpiY = kDpi,
+                                        .physicalOffsetX = offset,
+                                        .physicalOffsetY = offset};
+        QImage image(827 - 2 * offset, 1169 - 2 * offset, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        paintSheet(painter, paper, fullSheet());
+        painter.end();
+        const QRectF ink = inked(image, kDpi / 25.4).translated(offset * 25.4 / kDpi, offset * 25.4 / kDpi);
+        EXPECT_GT(ink.left(), 6) << offset;
+        EXPECT_LT(ink.right(), 204) << offset;
+        EXPECT_GT(ink.top(), 6) << offset;
+        EXPECT_LT(ink.bottom(), 291) << offset;
+        EXPECT_GT(ink.width(), 150) << offset;
+    }
+}
+
+}  // namespace
