@@ -28,6 +28,9 @@ public:
     /// What a screen reader tells of the chart of this picture besides its name.
     void setTwin(const forms::Image& picture, const QString& text);
 
+    /// What a pointer at this place of the view tells; empty away from all curves.
+    QString tipAt(QPointF pixel) const;
+
     QSize sizeHint() const override;
 
 protected:
@@ -51,7 +54,6 @@ private:
     QRect inPixels(const QRectF& twips) const;
     void placeAll();
     void place(const Follower& follower) const;
-    QString tipAt(QPointF pixel) const;
     QWidget* bare(const QString& name);
 
     FormWindow& window_;

@@ -73,13 +73,7 @@ protected:
     QColor seen(QPointF twips, double scale = 1 / 15.0) {
         return view_->grab().toImage().pixelColor((twips * scale).toPoint());
     }
-    QString tipAt(QPointF twips, double scale = 1 / 15.0) {
-        const QPoint at = (twips * scale).toPoint();
-        QToolTip::hideText();
-        QHelpEvent event(QEvent::ToolTip, at, view_->mapToGlobal(at));
-        QApplication::sendEvent(view_, &event);
-        return QToolTip::text();
-    }
+    QString tipAt(QPointF twips) { return view_->tipAt(twips / 15); }
 
     forms::Desk desk_;
     Charts* form_ = nullptr;
@@ -100,14 +94,14 @@ TEST_F(ChartViewTest, DrawsTheChartWhosePictureIsVisible) {
 }
 
 TEST_F(ChartViewTest, KeepsEachMarkerOnItsValueAtAnySize) {
-    const biometry::Point at = biometry::point(Chart::Bip, 22, 110);
+    const biometry::Point at = biometry::point(Chart::PageBip, 22, 110);
     form_->Point.moveTo({at.left, at.top});
-    EXPECT_EQ(seen(biometry::spot(Chart::Bip, 22, 110)), QColor(0xE0, 0, 0));
+    EXPECT_EQ(seen(biometry::spot(Chart::PageBip, 22, 110)), QColor(0xE0, 0, 0));
     window_->resize(1280, 960);
     QApplication::processEvents();
-    EXPECT_EQ(seen(biometry::spot(Chart::Bip, 22, 110), 2 / 15.0), QColor(0xE0, 0, 0));
+    EXPECT_EQ(seen(biometry::spot(Chart::PageBip, 22, 110), 2 / 15.0), QColor(0xE0, 0, 0));
     const QRect place = widgetOf(form_->Point)->geometry();
-    EXPECT_TRUE(place.contains((biometry::spot(Chart::Bip, 22, 110) * 2 / 15.0).toPoint()));
+    EXPECT_TRUE(place.contains((biometry::spot(Chart::PageBip, 22, 110) * 2 / 15.0).toPoint()));
     EXPECT_LT(place.width(), 20);
 }
 
@@ -136,6 +130,13 @@ TEST_F(ChartViewTest, TellsWeekAndValueOfTheCurveUnderThePointer) {
     EXPECT_EQ(tipAt(biometry::spot(Chart::Bip, 22, 100)), "");
     form_->Curve.hide();
     EXPECT_EQ(tipAt(biometry::spot(Chart::Bip, 22, 53.5)), "");
+}
+
+TEST_F(ChartViewTest, TellsItInAToolTip) {
+    const QPoint at = (biometry::spot(Chart::Bip, 22, 53.5) / 15).toPoint();
+    QHelpEvent event(QEvent::ToolTip, at, view_->mapToGlobal(at));
+    QApplication::sendEvent(view_, &event);
+    EXPECT_EQ(QToolTip::text(), "22 SA : 53,5 mm (50 ème percentile)");
 }
 
 TEST_F(ChartViewTest, TellsAScreenReaderWhatItShows) {

@@ -27,8 +27,8 @@ using theme::kGrid;
 const QRectF kCharts(0, 3850, 11906, 5250);
 
 constexpr int kScrollWidth = 110;
-constexpr int kPanelWidth = 470;
-constexpr int kPercentilePoints = 9;
+constexpr int kPanelWidth = 490;
+constexpr int kPercentilePoints = 8;
 
 class Form12Layout {
 public:
@@ -57,8 +57,7 @@ private:
         paper->setAutoFillBackground(true);
         auto* column = newColumn(paper, 2);
         column->addLayout(heading());
-        column->addWidget(measures());
-        column->addLayout(results());
+        column->addLayout(numbers());
         column->addWidget(charts(), 1);
         return bind_.plain(form_.Frame9, paper);
     }
@@ -79,31 +78,42 @@ private:
     }
 
     QLayout* heading() {
-        auto* row = newRow();
+        auto* lines = newColumn();
+        lines->setSpacing(kGrid / 2);
+        auto* name = newRow();
         QLabel* patient = bind_.label(form_.LblCivilite);
         patient->setFont(theme::headingFont());
-        row->addWidget(patient);
-        row->addSpacing(2 * kGrid);
-        addValue(row, QStringLiteral("Début de G. le"), form_.LblDGUS);
-        addValue(row, QStringLiteral("Age gesta"), form_.LblAgeGesta);
-        addValue(row, QStringLiteral("Examen du"), form_.LblDatExam);
-        row->addStretch(1);
+        name->addWidget(patient);
+        name->addStretch(1);
         auto* tag = new QFrame;
         auto* inside = newRow(tag);
         inside->setContentsMargins(kGrid, kGrid / 2, kGrid, kGrid / 2);
         inside->addWidget(bind_.label(form_.LblFoetus));
-        row->addWidget(bind_.plain(form_.Frame2, tag));
+        name->addWidget(bind_.plain(form_.Frame2, tag));
+        lines->addLayout(name);
+        auto* dates = newRow();
+        addValue(dates, QStringLiteral("Début de G. le"), form_.LblDGUS);
+        addValue(dates, QStringLiteral("Age gesta"), form_.LblAgeGesta);
+        addValue(dates, QStringLiteral("Examen du"), form_.LblDatExam);
+        dates->addStretch(1);
+        lines->addLayout(dates);
+        return lines;
+    }
+
+    // The measures in two columns, each with its percentile, and what is computed from them.
+    QLayout* numbers() {
+        auto* row = newRow();
+        row->setSpacing(3 * kGrid);
+        row->addWidget(measures());
+        row->addLayout(results());
+        row->addStretch(1);
         return row;
     }
 
-    // Three columns of three measures, each with its percentile.
     QWidget* measures() {
+        constexpr int kPerColumn = 5;
         auto* panel = new QWidget;
-        auto* grid = new QGridLayout(panel);
-        grid->setContentsMargins(0, 0, 0, 0);
-        grid->setHorizontalSpacing(kGrid);
-        grid->setVerticalSpacing(kGrid / 2);
-        constexpr int kPerColumn = 3;
+        auto* grid = newGrid(panel);
         for (std::size_t i = 0; i < biometry::kPageOrder.size(); ++i) {
             const Measure measure = biometry::kPageOrder[i];
             const int row = static_cast<int>(i) % kPerColumn;
@@ -115,9 +125,20 @@ private:
             grid->addWidget(newCaption(shortName(measure), number), row, column);
             grid->addWidget(number, row, column + 1);
             grid->addWidget(percentile(measure), row, column + 2);
-            grid->setColumnStretch(column + 2, 1);
         }
+        auto* unit = new QLabel(QStringLiteral("mesures en mm"));
+        unit->setForegroundRole(QPalette::PlaceholderText);
+        grid->addWidget(unit, kPerColumn - 1, 4, 1, 3);
+        grid->setColumnMinimumWidth(3, kGrid);
         return bind_.plain(form_.Frame3, panel);
+    }
+
+    static QGridLayout* newGrid(QWidget* parent = nullptr) {
+        auto* grid = new QGridLayout(parent);
+        grid->setContentsMargins(0, 0, 0, 0);
+        grid->setHorizontalSpacing(kGrid);
+        grid->setVerticalSpacing(kGrid / 2);
+        return grid;
     }
 
     QLabel* percentile(Measure measure) {
@@ -146,16 +167,12 @@ private:
     }
 
     QLayout* results() {
-        auto* row = newRow();
-        addValue(row, QStringLiteral("Pied / Fémur"), form_.LblPiedFem);
-        addValue(row, QStringLiteral("Orbites / Bip"), form_.LblDioBip);
-        addValue(row, QStringLiteral("Poids estimé"), form_.LblPoids);
-        addValue(row, QStringLiteral("Poids théorique"), form_.LblPoidsTheo);
-        row->addStretch(1);
-        auto* unit = new QLabel(QStringLiteral("mesures en mm"));
-        unit->setForegroundRole(QPalette::PlaceholderText);
-        row->addWidget(unit);
-        return row;
+        auto* fields = newFields(nullptr);
+        fields->addRow(QStringLiteral("Pied / Fémur"), value(form_.LblPiedFem));
+        fields->addRow(QStringLiteral("Orbites / Bip"), value(form_.LblDioBip));
+        fields->addRow(QStringLiteral("Poids estimé"), value(form_.LblPoids));
+        fields->addRow(QStringLiteral("Poids théorique"), value(form_.LblPoidsTheo));
+        return fields;
     }
 
     QWidget* charts() {
@@ -217,9 +234,7 @@ private:
     }
 
     QLayout* rows() {
-        auto* grid = new QGridLayout;
-        grid->setHorizontalSpacing(kGrid);
-        grid->setVerticalSpacing(kGrid / 2);
+        auto* grid = newGrid();
         grid->setColumnStretch(4, 1);
         for (const auto& [column, title] : {std::pair(1, "mm"), std::pair(3, "50 ème"), std::pair(4, "Percentile")}) {
             auto* label = new QLabel(QString::fromUtf8(title));
@@ -267,8 +282,8 @@ private:
         grid->setHorizontalSpacing(kGrid);
         grid->setVerticalSpacing(kGrid);
         auto* ratios = newRow();
-        addField(ratios, QStringLiteral("Pied / Fémur"), form_.FemPied, 6);
-        addField(ratios, QStringLiteral("Orbites / Bip"), form_.DioBip, 6);
+        addField(ratios, QStringLiteral("Pied / Fémur"), form_.FemPied, 5);
+        addField(ratios, QStringLiteral("Orbites / Bip"), form_.DioBip, 5);
         ratios->addStretch(1);
         grid->addLayout(ratios, 0, 0);
         grid->addWidget(bind_.button(form_.Command1), 0, 1);
@@ -280,7 +295,7 @@ private:
         weights->addStretch(1);
         grid->addLayout(weights, 1, 0);
         grid->addWidget(bind_.button(form_.Command2), 1, 1);
-        grid->addWidget(bind_.button(form_.CmdQuitter), 2, 1);
+        grid->addWidget(bind_.button(form_.CmdQuitter), 1, 2);
         grid->setColumnStretch(0, 1);
         return grid;
     }
@@ -307,7 +322,7 @@ private:
     }
 
     void addList(QGridLayout* lists, const QString& caption, forms::ListBox& control, int share) {
-        constexpr int kLines = 7;
+        constexpr int kLines = 6;
         QListView* view = bind_.list(control, caption);
         view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         view->setMinimumWidth(5 * kGrid);
