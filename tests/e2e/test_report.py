@@ -122,3 +122,120 @@ def test_without_a_printer_the_editor_works_and_prints_nothing(view):
     view.click("RicheT.tbToolBar(Imprimer)")
     assert view.boxes == []
     assert "DUPONT" in report(view)
+
+
+BOX = "RicheT.RichTextBox1"
+
+
+def tool(name):
+    return f"RicheT.tbToolBar({name})"
+
+
+@pytest.fixture
+def editor(view):
+    """The editor on a report whose first line, the name of the practice, is selected."""
+    view.click("Form6.Command2")
+    view.key(BOX, key="Ctrl+Home")
+    view.key(BOX, key="Shift+End")
+    return view
+
+
+def first_run(port):
+    return port.format(BOX)["runs"][0]
+
+
+@pytest.mark.parametrize(
+    "name, attribute, at_first", [("Gras", "bold", True), ("Italique", "italic", False), ("Souligné", "underline", False)]
+)
+def test_a_button_inverts_the_selection_and_shows_it(editor, name, attribute, at_first):
+    for expected in [not at_first, at_first]:
+        editor.click(tool(name))
+        assert first_run(editor)["text"].startswith("CABINET")
+        assert first_run(editor)[attribute] == expected
+        assert editor.get(tool(name))["checked"] == expected
+
+
+def test_the_alignment_buttons_stand_for_the_paragraph(editor):
+    names = {"Aligner à gauche": 0, "Aligner à droite": 1, "Centrer": 2}
+    for name, number in names.items():
+        editor.click(tool(name))
+        assert first_run(editor)["align"] == number
+        assert [other for other in names if editor.get(tool(other))["checked"]] == [name]
+
+
+def test_the_buttons_follow_the_caret(editor):
+    assert editor.get(tool("Gras"))["checked"] and editor.get(tool("Centrer"))["checked"]
+    editor.key(BOX, key="Ctrl+End")
+    assert not editor.get(tool("Gras"))["checked"] and editor.get(tool("Centrer"))["checked"]
+    editor.key(BOX, key="Ctrl+A")
+    assert not editor.get(tool("Centrer"))["checked"]
+
+
+def test_cutting_copying_and_pasting(editor):
+    editor.clipboard(text="d'ailleurs")
+    editor.click(tool("Copier"))
+    assert editor.clipboard()["text"] == "CABINET DES TILLEULS"
+    editor.click(tool("Couper"))
+    assert report(editor).startswith("\r\n")
+    editor.clipboard(text="Cabinet de l'Œuvre")
+    editor.click(tool("Coller"))
+    assert report(editor).startswith("Cabinet de l'Œuvre\r\n")
+
+
+def test_nothing_selected_leaves_the_clipboard_alone(editor):
+    editor.clipboard(text="d'ailleurs")
+    editor.key(BOX, key="Ctrl+Home")
+    editor.click(tool("Copier"))
+    editor.click(tool("Couper"))
+    assert editor.clipboard()["text"] == "d'ailleurs"
+    assert report(editor).startswith("CABINET DES TILLEULS\r\n")
+
+
+def test_the_font_dialog_sets_all_but_the_family(editor):
+    before = first_run(editor)
+    editor.answer(**{"with": ["cancel"]})
+    editor.click(tool("Police"))
+    assert [box["kind"] for box in editor.boxes] == ["font"]
+    assert first_run(editor) == before
+    chosen = {"size": 18, "bold": False, "italic": True, "underline": True, "strike": True, "color": "#ff0000"}
+    editor.answer(**{"with": [{"font": {**chosen, "name": "DejaVu Sans"}}]})
+    editor.click(tool("Police"))
+    run = first_run(editor)
+    assert {key: run[key] for key in chosen} == chosen
+    assert run["family"] == before["family"]
+
+
+def test_a_correction_is_undone_by_its_key(editor):
+    before = report(editor)
+    editor.type(BOX, text=" Vu.")
+    assert report(editor).endswith(" Vu.")
+    editor.key(BOX, key="Ctrl+Z")
+    assert report(editor) == before
+    # The report itself is no correction.
+    editor.key(BOX, key="Ctrl+Z")
+    assert report(editor) == before
+
+
+def printed_text(pdf):
+    return subprocess.run(["pdftotext", "-layout", str(pdf), "-"], capture_output=True, text=True, check=True).stdout
+
+
+def test_the_menu_prints_through_the_dialog_alone(editor, tmp_path):
+    pdf = tmp_path / "menu.pdf"
+    editor.printer(file=str(pdf))
+    editor.answer(**{"with": ["cancel"]})
+    editor.click("RicheT.imprimer")
+    assert [box["kind"] for box in editor.boxes] == ["print"]
+    assert not pdf.exists()
+    editor.answer(**{"with": ["ok"]})
+    editor.click("RicheT.imprimer")
+    assert [box["kind"] for box in editor.boxes] == ["print"]
+    assert "DUPONT" in printed_text(pdf)
+
+
+def test_without_a_printer_the_menu_still_prints_to_a_file(editor, tmp_path):
+    pdf = tmp_path / "sans-imprimante.pdf"
+    editor.printer(none=True)
+    editor.answer(**{"with": [{"file": str(pdf)}]})
+    editor.click("RicheT.imprimer")
+    assert "DUPONT" in printed_text(pdf)
