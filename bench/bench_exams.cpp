@@ -193,9 +193,11 @@ int main(int count, char** arguments) {
     qt::theme::apply(application);
     const std::vector<int> sizes{kFewExams, kManyExams};
     side_by_side::pair("new exam, 1st trim.", newExamOurs<kFirstTrimester>, newExamBare, 3, sizes);
+    side_by_side::pair("new exam, later trim.", newExamOurs<kLaterTrimesters>, newExamBare, 3, sizes);
     side_by_side::pair("exam shown, 1st trim.", displayOurs<kFirstTrimester>, displayBare<kFirstTrimester>, 3, sizes);
     side_by_side::pair("exam shown, later trim.", displayOurs<kLaterTrimesters>, displayBare<kLaterTrimesters>, 3,
                        sizes);
     side_by_side::within("500 phrases, 1st trim.", focusOnManyPhrases<kFirstTrimester>, kFrame);
+    side_by_side::within("500 phrases, later trim.", focusOnManyPhrases<kLaterTrimesters>, kFrame);
     return side_by_side::run(count, arguments);
 }

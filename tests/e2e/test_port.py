@@ -201,6 +201,7 @@ def test_the_kinds_that_come_and_go(viewing):
     viewing.click("Form4.Cmd1Ter")
     assert viewing.get("Form5.Calendar1")["kind"] == "Calendar"
     assert viewing.get("Form4.Image1")["kind"] == "Image"
+    assert viewing.get("Form4.Image1")["picture"] is None
 
 
 def test_a_list_tells_its_lines_and_the_chosen_one(writing):
@@ -345,6 +346,7 @@ def test_a_day_is_picked_in_a_calendar_alone(writing):
     assert writing.text("Form5.Txt1Ter(2)") == "28/02/2001"
     assert refused(writing, "pick", control="Form5.Calendar1", date="30/02/2001")
     assert refused(writing, "pick", control="Form5.List1", date="01/02/2001")
+    assert "no scroll bar" in refused(writing, "scroll", control="Form5.List1", value=3)
 
 
 def test_a_combo_box_is_chosen_from_by_text_and_row(desk):
@@ -468,6 +470,24 @@ def test_a_file_dialog_tells_what_it_offers(menu):
     menu.click("Form22.Command6")
     assert menu.boxes[0]["answered"] == str(menu.folder / "NOM.MDB")
     assert menu.text("Form22.Text3") == str(menu.folder / "NOM.MDB")
+
+
+def test_the_printer_and_the_font_dialogs_are_told(viewing):
+    viewing.click("Form6.Command1")
+    viewing.printer(file=str(viewing.folder / "page.pdf"))
+    viewing.click("RicheT.imprimer")
+    (box,) = viewing.boxes
+    assert (box["kind"], box["answered"]) == ("print", "none waiting")
+    assert not (viewing.folder / "page.pdf").exists()
+    viewing.key("RicheT.RichTextBox1", key="Ctrl+A")
+    viewing.answer(**{ANSWERS: ["cancel", {"font": {"size": 20, "italic": True, "color": "#0000ff"}}]})
+    before = viewing.format("RicheT.RichTextBox1")["runs"]
+    viewing.click("RicheT.tbToolBar(Police)")
+    assert [(box["kind"], box["answered"]) for box in viewing.boxes] == [("font", "cancel")]
+    assert viewing.format("RicheT.RichTextBox1")["runs"] == before
+    viewing.click("RicheT.tbToolBar(Police)")
+    runs = [run for run in viewing.format("RicheT.RichTextBox1")["runs"] if run["text"].strip()]
+    assert {(run["size"], run["italic"], run["color"]) for run in runs} == {(20, True, "#0000ff")}
 
 
 # The machine.
