@@ -25,14 +25,15 @@ int main(int argc, char** argv) {
     ports::SettingsFile settings(ports::userSettingsPath());
     qt::RealBoxes boxes;
     qt::RealFileDialogs fileDialogs;
-    // The program may write elsewhere than where it was installed.
-    qt::RealHelp help(boxes, QApplication::applicationDirPath());
     qt::RealPrinters printers;
+    // The program may write elsewhere than where it was installed.
+    qt::RealHelp help(boxes, printers, QApplication::applicationDirPath());
     qt::RealFontDialog fontDialog;
     qt::RealClipboard clipboard;
     shell::Program program(
         {clock, settings, boxes, fileDialogs, help, printers, fontDialog, clipboard, qt::programFolder()});
     qt::WindowStage stage(program.desk(), [] { QApplication::exit(0); });
+    stage.onHelp = [&](const QString& window) { program.showHelp(window); };
     QApplication::setQuitOnLastWindowClosed(false);
     program.desk().act([&] { ports::renewDamaged(settings, boxes); });
     program.start();

@@ -200,6 +200,7 @@ QJsonObject Server::start() {
     program_ = std::make_unique<shell::Program>(
         ports::Machine{clock_, settings_, boxes_, fileDialogs_, help_, printers_, fontDialog_, clipboard_, folder_});
     stage_ = std::make_unique<qt::WindowStage>(program_->desk(), [] {});
+    stage_->onHelp = [this](const QString& window) { program_->showHelp(window); };
     program_->desk().act([this] { ports::renewDamaged(settings_, boxes_); });
     program_->start();
     return {};

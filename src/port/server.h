@@ -53,8 +53,8 @@ private:
     ports::SettingsFile settings_;
     qt::RealBoxes boxes_;
     qt::RealFileDialogs fileDialogs_;
-    qt::RealHelp help_{boxes_};
     PortPrinters printers_;
+    qt::RealHelp help_{boxes_, printers_};
     qt::RealFontDialog fontDialog_;
     qt::RealClipboard clipboard_;
     BoxWatcher watcher_;

@@ -1,11 +1,14 @@
 #include "qt/help_file.h"
 
-#include <QHelpEngineCore>
+#include <QHelpEngine>
+#include <QHelpFilterEngine>
+#include <QHelpLink>
+#include <QRegularExpression>
 
 namespace qt {
 
 HelpFile::HelpFile(const QString& path)
-    : engine_(std::make_unique<QHelpEngineCore>(folder_.filePath(QStringLiteral("aide.qhc")))) {
+    : engine_(std::make_unique<QHelpEngine>(folder_.filePath(QStringLiteral("aide.qhc")))) {
     engine_->setReadOnly(false);
     const QString space = QHelpEngineCore::namespaceName(path);
     if (!space.isEmpty() && engine_->setupData() && engine_->registerDocumentation(path)) {
@@ -21,6 +24,33 @@ bool HelpFile::isReadable() const {
 
 QByteArray HelpFile::page(const QUrl& address) const {
     return engine_->fileData(address);
+}
+
+QList<QUrl> HelpFile::chapters() const {
+    static const QRegularExpression kLink(QStringLiteral("href=\"([^\"]+)\""));
+    QList<QUrl> chapters{contents_};
+    const QString page = QString::fromUtf8(this->page(contents_));
+    for (const QRegularExpressionMatch& link : kLink.globalMatch(page)) {
+        chapters << contents_.resolved(QUrl(link.captured(1)));
+    }
+    return chapters;
+}
+
+QUrl HelpFile::chapterOf(const QString& window) const {
+    const QList<QHelpLink> links = engine_->documentsForIdentifier(window, QString());
+    return links.isEmpty() ? QUrl() : links.first().url;
+}
+
+QStringList HelpFile::keywords() const {
+    return engine_->filterEngine()->indices(QString());
+}
+
+QList<QUrl> HelpFile::pagesOf(const QString& keyword) const {
+    QList<QUrl> pages;
+    for (const QHelpLink& link : engine_->documentsForKeyword(keyword, QString())) {
+        pages << link.url;
+    }
+    return pages;
 }
 
 }  // namespace qt

@@ -1,5 +1,6 @@
 #include "qt/real_help.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -10,20 +11,43 @@ RealHelp::~RealHelp() {
 }
 
 void RealHelp::showContents(const QString& file) {
-    if (!window_) {
-        const QString place = placeOf(file);
-        if (!QFileInfo::exists(place)) {
-            complain(QStringLiteral("Le fichier d'aide %1 est introuvable."), file);
-            return;
-        }
-        auto opened = std::make_unique<HelpFile>(place);
-        if (!opened->isReadable()) {
-            complain(QStringLiteral("Le fichier d'aide %1 ne peut pas être lu."), place);
-            return;
-        }
-        window_ = new HelpWindow(std::move(opened));
+    showChapter(file, {});
+}
+
+void RealHelp::showChapter(const QString& file, const QString& window) {
+    if (open(file)) {
+        standInFrontOfModal();
+        window_->showChapterOf(window);
     }
-    window_->showContents();
+}
+
+bool RealHelp::open(const QString& file) {
+    if (window_) {
+        return true;
+    }
+    const QString place = placeOf(file);
+    if (!QFileInfo::exists(place)) {
+        complain(QStringLiteral("Le fichier d'aide %1 est introuvable."), file);
+        return false;
+    }
+    auto opened = std::make_unique<HelpFile>(place);
+    if (!opened->isReadable()) {
+        complain(QStringLiteral("Le fichier d'aide %1 ne peut pas être lu."), place);
+        return false;
+    }
+    window_ = new HelpWindow(std::move(opened), printers_);
+    return true;
+}
+
+// A window that keeps the others from taking input leaves its own children alone: the help becomes one, and goes with
+// it.
+void RealHelp::standInFrontOfModal() {
+    QWidget* modal = QApplication::activeModalWidget();
+    if (modal && modal != window_ && window_->parentWidget() != modal) {
+        const QRect place = window_->geometry();
+        window_->setParent(modal, Qt::Window);
+        window_->setGeometry(place);
+    }
 }
 
 QString RealHelp::placeOf(const QString& file) const {

@@ -1,5 +1,7 @@
 #include "qt/stage.h"
 
+#include <QShortcut>
+
 #include "qt/layouts.h"
 
 namespace qt {
@@ -49,6 +51,8 @@ FormWindow& WindowStage::make(forms::Form& form) {
     if (const Layout layOut = layoutOf(form.name())) {
         layOut(form, *window);
     }
+    connect(new QShortcut(QKeySequence::HelpContents, window), &QShortcut::activated, this,
+            [this, name = form.name()] { onHelp(name); });
     return *window;
 }
 

@@ -16,6 +16,9 @@ public:
     explicit WindowStage(forms::Desk& desk, std::function<void()> ended);
     ~WindowStage() override;
 
+    /// Called with a window's name when a person asks for help in it.
+    std::function<void(const QString& window)> onHelp = [](const QString&) {};
+
     /// The real window of a form, null if it was never shown.
     FormWindow* windowOf(const forms::Form& form) const;
 

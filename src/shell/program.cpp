@@ -65,6 +65,10 @@ void Program::start() {
     desk_.act([this] { desk_.at<Form0>(); });
 }
 
+void Program::showHelp(const QString& window) {
+    around_.help.showChapter(around_.programFolder + QStringLiteral("/VERANOX.HLP"), window);
+}
+
 void Program::openNew(dossier::ExamFamily family) {
     if (family == dossier::ExamFamily::Gynaecology) {
         gynaecology_.openNew();

@@ -20,6 +20,8 @@ public:
 
     /// Brings up the main menu.
     void start();
+    /// Opens the help at the chapter about a window.
+    void showHelp(const QString& window);
 
 private:
     void openNew(dossier::ExamFamily family) override;

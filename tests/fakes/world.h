@@ -85,7 +85,11 @@ public:
 class Help final : public ports::Help {
 public:
     void showContents(const QString& file) override { shown << file; }
-    QStringList shown;
+    void showChapter(const QString& file, const QString& window) override {
+        shown << file;
+        chapters << window;
+    }
+    QStringList shown, chapters;
 };
 
 /// A printer on paper of its own choosing. What is drawn goes nowhere; the jobs are counted.
