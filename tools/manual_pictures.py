@@ -1,0 +1,154 @@
+#!/usr/bin/env python3
+"""Renews the pictures of the manual: walks through the windows and keeps a small picture of each in help/images/.
+
+Fails when a picture that a page shows was not made."""
+
+import math
+import pathlib
+import random
+import re
+import subprocess
+import sys
+import tempfile
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+sys.path.insert(0, str(ROOT / "tests" / "e2e"))
+sys.path.insert(0, str(ROOT / "tools"))
+from port import Port  # noqa: E402
+from tour import Tour  # noqa: E402
+
+HELP = ROOT / "help"
+WIDTH = 740  # what a page of the help window shows without scrolling
+HEAVIEST = 60 * 1024
+COLOURS = [64, 48, 32, 16]  # tried in turn until the picture is light enough
+
+# What the tour calls its pictures, and what the manual does.
+OF_THE_TOUR = {
+    "menu": "form1", "a-propos": "form14", "superviseur": "form22", "sauvegardes": "form21", "reponses": "form9",
+    "dossier": "form4", "fiche-modifiee": "form3", "fiche-nouvelle": "form2", "examen-redaction": "form5",
+    "examen": "form6", "examen-correction": "form7", "compte-rendu": "richet",
+    "examen-tardif-redaction": "form8", "examen-tardif": "form10", "examen-tardif-correction": "form11",
+    "biometrie": "form12", "courbe-bip": "form13",
+    "gynecologie-redaction": "form16", "ovulation-redaction": "form16-ovulation", "gynecologie": "form18",
+    "ovulation": "form18-ovulation", "gynecologie-correction": "form17",
+}
+
+
+def shown_by_pages():
+    pages = "".join(page.read_text(encoding="utf-8") for page in HELP.glob("*.html"))
+    return set(re.findall(r'src="images/([^"]+)\.png"', pages))
+
+
+def echo(path, seed, width=360, height=288):
+    """Draws an invented ultrasound picture: a fan of speckle with a bright ring in it. Kept as the name says."""
+    chance = random.Random(seed)
+    left, top, across, down = 90 + 20 * seed, 140 + 9 * seed, 60 - 3 * seed, 40 + 2 * seed
+    rows = []
+    for y in range(height):
+        for x in range(width):
+            angle, far = math.atan2(x - width / 2, y + 30), math.hypot(x - width / 2, y + 30)
+            inside = abs(angle) < 0.62 and 60 < far < 300
+            ring = abs(math.hypot((x - left - 60) / across, (y - top) / down) - 1)
+            light = 40 + 30 * math.sin(far / 9) + chance.gauss(0, 22) + (150 if ring < 0.09 else 0) - (35 if ring > 0.9 else 0)
+            rows.append(max(0, min(255, int(light))) if inside else 8)
+    subprocess.run(
+        ["convert", "-", str(path)], input=b"P5 %d %d 255\n" % (width, height) + bytes(rows), check=True
+    )
+    return str(path)
+
+
+class Pictures(Tour):
+    """The tour, once and in the light palette, with the windows that it passes by."""
+
+    def __init__(self, out):
+        super().__init__(out, "claire")
+        self.made = set()
+
+    def picture(self, form, name):
+        if name in OF_THE_TOUR:
+            self.keep(form, OF_THE_TOUR[name])
+
+    def keep(self, form, name, port=None):
+        file = self.out / f"{name}.png"
+        (port or self.port).shot(form=form, file=str(file))
+        reduce(file, HELP / "images" / file.name)
+        self.made.add(name)
+        print(name)
+
+    def greeting(self):
+        with tempfile.TemporaryDirectory() as folder:
+            port = Port(folder, today="2002-04-16", platform="xcb", environment={"VERANOX_PALETTE": self.palette})
+            port.start()
+            self.keep("Form15", "form15", port)
+            port.end()
+
+    def photos(self):
+        self.port.set("Form4.Text1", text="MARTINEAU")
+        self.port.click("Form4.Cmd1Ter")
+        self.port.click("Form5.CmdPhotos")
+        for number in range(1, 8):
+            self.port.camera(image=echo(self.out / f"capture{number}.png", number))
+            self.port.click("Form19.Command4")
+        for number in [2, 3, 6]:
+            self.port.click(f"Form19.Image2({number})")
+        self.keep("Form19", "form19")
+        self.port.dblclick("Form19.Image2(2)")
+        self.port.answer(**{"with": [{"file": str(self.out / "MART_ANN020614_1.jpg")}]})
+        self.port.click("Form19.Archiver")
+        self.keep("FrmCpr", "frmcpr")
+        self.port.click("FrmCpr.Command2")
+        self.port.click("Form19.Qui")
+        self.port.click("Form5.CmdQuitter")
+
+    def album(self):
+        for number in range(1, 8):
+            file = echo(self.out / f"MART_ANN0206{number:02}_{number}.jpg", number)
+            self.port.insert(table="ECHOS", row={
+                "Nom": "MARTINEAU", "Prenom": "ANNE", "DATEXAM": f"{number:02}/06/2002", "NOMFICH": file.rsplit("/", 1)[-1],
+                "NOMPATH": file, "Typexam": "2", "DIAGNO": "Normal", "CRIT1": "Profil", "CRIT2": "Face", "CRIT3": "Main"})
+        self.port.click("Form4.CmdQuitter")
+        self.port.click("Form1.Command6")
+        self.port.type("Form20.TxtRechNom", text="MARTINEAU")
+        self.port.click("Form20.Command1")
+        self.port.click("Form20.CmdAffiche")
+        self.keep("Form20", "form20")
+        for place in [0, 3]:
+            self.port.dblclick(f"Form20.Image1({place})")
+            self.port.click("Form20.CmdImpr")
+            self.port.click("Form20.CmdFermer")
+        self.port.type("Form20.TxtImp", text="Profil et face")
+        self.keep("Form20", "form20-feuille")
+
+
+def reduce(source, target):
+    """A smaller picture of few colours, light enough for the help file."""
+    target.parent.mkdir(exist_ok=True)
+    for colours in COLOURS:
+        subprocess.run(
+            ["convert", str(source), "-strip", "-resize", f"{WIDTH}x>", "-dither", "None", "-colors", str(colours),
+             "-define", "png:exclude-chunk=all", "-define", "png:compression-level=9", f"PNG8:{target}"],
+            check=True,
+        )
+        if target.stat().st_size <= HEAVIEST:
+            return
+    raise SystemExit(f"{target} is heavier than {HEAVIEST} bytes")
+
+
+def main():
+    wanted = shown_by_pages()
+    with tempfile.TemporaryDirectory() as folder:
+        pictures = Pictures(pathlib.Path(folder))
+        try:
+            pictures.walk()
+            pictures.photos()
+            pictures.album()
+            pictures.greeting()
+        finally:
+            pictures.end()
+    missing = wanted - pictures.made
+    if missing:
+        raise SystemExit("no picture was made of: " + ", ".join(sorted(missing)))
+
+
+if __name__ == "__main__":
+    main()
