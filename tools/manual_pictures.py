@@ -65,8 +65,15 @@ class Pictures(Tour):
         self.made = set()
 
     def picture(self, form, name):
+        if name == "superviseur":
+            self.usual_paths()
         if name in OF_THE_TOUR:
             self.keep(form, OF_THE_TOUR[name])
+
+    def usual_paths(self):
+        """Nothing is saved: the tour leaves the window by its button for that."""
+        for field, path in [(1, "ECHO.MDB"), (2, "ECHOTEK.MDB"), (3, "NOM.MDB"), (5, "ATCD.MDB"), (4, "sauve/")]:
+            self.port.set(f"Form22.Text{field}", text=f"/srv/cabinet/{path}")
 
     def keep(self, form, name, port=None):
         file = self.out / f"{name}.png"

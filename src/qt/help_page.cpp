@@ -19,7 +19,7 @@ const QString kSheet = QStringLiteral(
     "h1 { font-size: 17pt; color: %1; margin-bottom: 8px }"
     "h2 { font-size: 12pt; color: %1; margin-top: 20px; margin-bottom: 6px }"
     "p, li { line-height: 125% } li { margin-bottom: 4px }"
-    "p.note { background-color: %2 }"
+    "p.picture { line-height: 100% } p.note { background-color: %2 }"
     "table { border-collapse: collapse; border-color: %3; border-style: solid; margin-top: 6px; margin-bottom: 6px }"
     "th { background-color: %2; text-align: left } a { color: %1 } code { font-family: monospace }");
 

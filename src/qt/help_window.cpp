@@ -19,8 +19,8 @@
 namespace qt {
 namespace {
 
-constexpr QSize kSize(1120, 690);
-constexpr int kFindersWidth = 270;
+constexpr QSize kSize(1150, 690);
+constexpr int kFindersWidth = 300;
 
 QPushButton* newButton(const QString& caption, QBoxLayout* row) {
     auto* button = new QPushButton(caption);
@@ -212,7 +212,11 @@ void HelpWindow::showPage(const QUrl& address) {
 // The tree shows where one is; the marks of a search stay with their page.
 void HelpWindow::follow(const QUrl& address) {
     QHelpContentWidget* tree = file_->engine().contentWidget();
-    const QModelIndex row = tree->indexOf(address.adjusted(QUrl::RemoveFragment));
+    QModelIndex row = tree->indexOf(address.adjusted(QUrl::RemoveFragment));
+    // A part of the manual leads to its first chapter: that is where one is.
+    if (row.isValid() && row.parent().isValid() && tree->model()->hasChildren(row)) {
+        row = tree->model()->index(0, 0, row);
+    }
     if (row.isValid()) {
         tree->setCurrentIndex(row);
     }

@@ -261,7 +261,7 @@ QList<QStringList> rowsOf(const QByteArray& page, const QString& underHeading) {
         } else if (heading == underHeading && reader.name() == u"tr") {
             rows << QStringList();
         } else if (heading == underHeading && reader.name() == u"td") {
-            rows.last() << reader.readElementText();
+            rows.last() << reader.readElementText().simplified();
         }
     }
     rows.removeIf([](const QStringList& row) { return row.isEmpty(); });
@@ -298,7 +298,7 @@ QString cellOf(const biometry::tables::Range& range) {
         return QStringLiteral("≥ %1").arg(range.first);
     }
     return range.first == range.last ? QString::number(range.first)
-                                   : QStringLiteral("%1 à %2").arg(range.first).arg(range.last);
+                                     : QStringLiteral("%1 à %2").arg(range.first).arg(range.last);
 }
 
 TEST_F(Manual, PrintsThePercentileTablesThatTheProgramUses) {
@@ -431,7 +431,7 @@ TEST_F(HelpViewer, OpensAtTheContents) {
     ASSERT_NE(helpWindow(), nullptr);
     EXPECT_TRUE(helpWindow()->isVisible());
     EXPECT_EQ(helpWindow()->windowTitle(), "Aide de VERANOX");
-    EXPECT_TRUE(pages()->toPlainText().contains("Sommaire"));
+    EXPECT_EQ(heading(), "Aide de VERANOX");
     EXPECT_TRUE(boxes_.said.isEmpty());
 }
 
@@ -537,7 +537,7 @@ TEST_F(HelpViewer, PrintsThePageInViewOnAsManySheetsAsItTakes) {
     printers_.page = fakes::kA4;
     help_.showChapter(kHelp, "Form15");
     button("I&mprimer...")->click();
-    pages()->setSource(QUrl("tables-percentiles.html"));
+    pages()->setSource(HelpFile(kHelp).contents().resolved(QUrl("tables-percentiles.html")));
     button("I&mprimer...")->click();
     ASSERT_EQ(printers_.jobs.size(), 2u);
     EXPECT_EQ(printers_.jobs[0].title, "Le message du 16 avril");
