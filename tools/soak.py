@@ -78,7 +78,23 @@ class Day:
         self.port.click("RicheT.tbToolBar(Quitter)")
 
     def later_trimesters(self):
-        pass
+        self.find("GUÉRIN", "")
+        self.port.click("Form4.Cmd2Ter")
+        self.port.set("Form8.Txt2T(2)", text="10/01/2002")
+        self.port.click("Form8.Option2")
+        for button in ("Bourgeois", "CmdJ2", "CmdJ1", "CmdZoneA", "Perso"):
+            self.port.click("Form8." + button)
+        for field in range(15, 27):
+            self.port.focus(f"Form8.Txt2T({field})")
+            self.port.dblclick("Form8.List2", row=0)
+        self.yes()
+        self.port.click("Form8.CmdEnregis")
+        self.port.click("Form10.CmdModifs")
+        self.port.set("Form11.Txt2T(32)", text="Croissance harmonieuse.")
+        self.yes()
+        self.port.click("Form11.CmdModifs")
+        self.report("Form10.Command1")
+        self.delete("Form10.Supprim")
 
     def gynaecology(self):
         self.port.type("Form4.Text1", text="rossignol")
@@ -103,7 +119,6 @@ class Day:
         self.find("MARTINEAU", "CHRISTELLE")
         self.correct_sheet()
         self.first_trimester()
-        self.find("MARTINEAU", "CHRISTELLE")
         self.later_trimesters()
         self.gynaecology()
         self.port.click("Form4.Menu")

@@ -62,11 +62,6 @@ def first_exam(port):
     port.type("Form5.Txt1Ter(15)", text="1")
 
 
-def later_exam(port):
-    clicks("Form4.Cmd2Ter")(port)
-    port.type("Form8.Txt2Ter(18)", text="1")
-
-
 def phrase(port):
     port.click("Form1.Command2")
     port.click("Form9.CmdIndications")
@@ -77,6 +72,9 @@ WINDOWS = [
     Window("Form3", "NOM.MDB", "FICHEPATIENT", "TxtRue1", "CmdEnreg", clicks("Form4.CmdModifie")),
     Window("Form5", "ECHO.MDB", "1TER", "Txt1Ter(26)", "CmdEnregis", first_exam),
     Window("Form7", "ECHO.MDB", "1TER", "Txt1Ter(26)", "CmdModifs", clicks("Form4.HlbCptDer", "Form6.CmdModifs")),
+    Window("Form8", "ECHO.MDB", "1TER", "Txt2T(32)", "CmdEnregis", clicks("Form4.Cmd2Ter")),
+    Window("Form11", "ECHO.MDB", "1TER", "Txt2T(32)", "CmdModifs",
+           clicks("Form4.HlbCptDer", "Form10.CmdModifs", surname="GUÉRIN", first_name="")),
     Window("Form9", "ECHO.MDB", "OPTIONS", "Text1", "CmdAjoute", phrase),
     Window("Form16", "ECHO.MDB", "GYNECO", "TxtGyneco(26)", "CmdEnregis",
            clicks("Form4.CmdGyneco", surname="ROSSIGNOL", first_name="")),
