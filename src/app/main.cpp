@@ -10,6 +10,7 @@
 #include "qt/real_file_dialogs.h"
 #include "qt/real_font_dialog.h"
 #include "qt/real_help.h"
+#include "qt/real_picture_source.h"
 #include "qt/real_printers.h"
 #include "qt/stage.h"
 #include "qt/theme.h"
@@ -30,8 +31,9 @@ int main(int argc, char** argv) {
     qt::RealHelp help(boxes, printers, QApplication::applicationDirPath());
     qt::RealFontDialog fontDialog;
     qt::RealClipboard clipboard;
-    shell::Program program(
-        {clock, settings, boxes, fileDialogs, help, printers, fontDialog, clipboard, qt::programFolder()});
+    qt::RealPictureSource pictureSource(settings);
+    shell::Program program({clock, settings, boxes, fileDialogs, help, printers, fontDialog, clipboard, pictureSource,
+                            qt::programFolder()});
     qt::WindowStage stage(program.desk(), [] { QApplication::exit(0); });
     stage.onHelp = [&](const QString& window) { program.showHelp(window); };
     QApplication::setQuitOnLastWindowClosed(false);

@@ -65,9 +65,8 @@ QString readTextFile(const QString& path) {
     return decodeText(bytes);
 }
 
-void replaceTextFile(const QString& path, const QString& text) {
+void replaceFile(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
-    const QByteArray bytes = text.toUtf8();
     // Unbuffered: a write that fails while a buffer is flushed would go unseen.
     const bool written = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(bytes) == bytes.size();
     const ErrorNumber failure = writeFailure(file.error());
@@ -78,6 +77,10 @@ void replaceTextFile(const QString& path, const QString& text) {
     if (!file.commit()) {
         failAt(writeFailure(file.error()), path);
     }
+}
+
+void replaceTextFile(const QString& path, const QString& text) {
+    replaceFile(path, text.toUtf8());
 }
 
 }  // namespace base

@@ -11,8 +11,11 @@ QString decodeText(const QByteArray& bytes);
 /// be read.
 QString readTextFile(const QString& path);
 
-/// Makes a text the whole content of a file, in UTF-8. It is written beside the file and then takes its place: on any
-/// failure the old file is whole. Throws DiskFull, PermissionDenied or DeviceError.
+/// Makes bytes the whole content of a file, which is written beside it and then takes its place: on any failure the old
+/// file is whole. Throws DiskFull, PermissionDenied or DeviceError.
+void replaceFile(const QString& path, const QByteArray& bytes);
+
+/// The same with a text, in UTF-8.
 void replaceTextFile(const QString& path, const QString& text);
 
 }  // namespace base

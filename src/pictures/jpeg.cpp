@@ -8,6 +8,8 @@
 namespace pictures {
 namespace {
 
+constexpr int kBytesPerPixel = 3;
+
 struct CloseHandle {
     void operator()(void* handle) const { tjDestroy(handle); }
 };
@@ -43,6 +45,17 @@ bool harmless(Handle& handle) {
 }
 
 }  // namespace
+
+JpegBytes encodeJpeg(const PixelRows& rows, int quality) {
+    Q_ASSERT(rows.bytesPerLine >= rows.width * kBytesPerPixel);
+    const Handle handle(tjInitCompress());
+    uchar* bytes = nullptr;
+    unsigned long size = 0;
+    const bool done = rows.first && handle &&
+                      tjCompress2(handle.get(), rows.first, rows.width, rows.bytesPerLine, rows.height, TJPF_BGR,
+                                  &bytes, &size, TJSAMP_420, quality, TJFLAG_ACCURATEDCT) == 0;
+    return {bytes, done ? static_cast<qsizetype>(size) : 0, [](uchar* released) { tjFree(released); }};
+}
 
 DecodedJpeg decodeJpeg(const QByteArray& bytes, QSize wanted) {
     using Outcome = DecodedJpeg::Outcome;

@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QTest>
 #include <algorithm>
@@ -134,6 +135,9 @@ QJsonObject Server::carryOut(const QString& verb, const QJsonObject& request) {
     if (verb == u"printer") {
         return printer(request);
     }
+    if (verb == u"camera") {
+        return camera(request);
+    }
     if (verb == u"start") {
         return start();
     }
@@ -197,8 +201,8 @@ Target Server::target(const QString& control) const {
 QJsonObject Server::start() {
     stage_.reset();
     program_.reset();
-    program_ = std::make_unique<shell::Program>(
-        ports::Machine{clock_, settings_, boxes_, fileDialogs_, help_, printers_, fontDialog_, clipboard_, folder_});
+    program_ = std::make_unique<shell::Program>(ports::Machine{
+        clock_, settings_, boxes_, fileDialogs_, help_, printers_, fontDialog_, clipboard_, pictureSource_, folder_});
     stage_ = std::make_unique<qt::WindowStage>(program_->desk(), [] {});
     stage_->onHelp = [this](const QString& window) { program_->showHelp(window); };
     program_->desk().act([this] { ports::renewDamaged(settings_, boxes_); });
@@ -277,6 +281,16 @@ QJsonObject Server::clipboard(const QJsonObject& request) {
 
 QJsonObject Server::printer(const QJsonObject& request) {
     printers_.setFile(request.value(u"none").toBool() ? QString() : request.value(u"file").toString());
+    return {};
+}
+
+QJsonObject Server::camera(const QJsonObject& request) {
+    const QString image = request.value(u"image").toString();
+    const bool none = request.value(u"none").toBool();
+    if (!none && !QFileInfo(image).isFile()) {
+        throw PortError{QStringLiteral("there is no picture %1").arg(image)};
+    }
+    pictureSource_.setImage(none ? QString() : image);
     return {};
 }
 

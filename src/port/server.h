@@ -8,6 +8,7 @@
 #include "port/box_watcher.h"
 #include "port/fixed_clock.h"
 #include "port/hands.h"
+#include "port/port_picture_source.h"
 #include "port/port_printers.h"
 #include "ports/settings_file.h"
 #include "qt/real_boxes.h"
@@ -46,6 +47,7 @@ private:
     QJsonObject shot(const QJsonObject& request);
     QJsonObject clipboard(const QJsonObject& request);
     QJsonObject printer(const QJsonObject& request);
+    QJsonObject camera(const QJsonObject& request);
     QWidget& windowOf(const QJsonObject& request) const;
 
     QString folder_;
@@ -57,6 +59,7 @@ private:
     qt::RealHelp help_{boxes_, printers_};
     qt::RealFontDialog fontDialog_;
     qt::RealClipboard clipboard_;
+    PortPictureSource pictureSource_{settings_};
     BoxWatcher watcher_;
     std::map<QString, Act> acts_;
     std::unique_ptr<shell::Program> program_;

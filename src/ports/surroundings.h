@@ -9,6 +9,7 @@
 #include "ports/file_dialogs.h"
 #include "ports/font_dialog.h"
 #include "ports/help.h"
+#include "ports/picture_source.h"
 #include "ports/printer.h"
 #include "ports/settings.h"
 
@@ -24,6 +25,7 @@ struct Machine {
     Printers& printers;
     FontDialog& fontDialog;
     Clipboard& clipboard;
+    PictureSource& pictureSource;
     /// The program's own folder, with no closing separator.
     QString programFolder;
 };

@@ -7,6 +7,7 @@
 #include "qt/layouts/dossier_layouts.h"
 #include "qt/layouts/exam_layouts.h"
 #include "qt/layouts/gynaecology_layouts.h"
+#include "qt/layouts/pictures_layouts.h"
 #include "qt/layouts/reports_layouts.h"
 #include "qt/layouts/responses_layouts.h"
 #include "qt/layouts/sheet_layouts.h"
@@ -46,8 +47,10 @@ Layout layoutOf(const QString& form) {
         entry(layOutForm17),
         entry(layOutForm18),
         entry(layOutForm20),
+        entry(layOutForm19),
         entry(layOutForm21),
         entry(layOutForm22),
+        entry(layOutFrmCpr),
         entry(layOutRicheT),
     };
     // clang-format on

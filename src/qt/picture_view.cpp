@@ -69,7 +69,12 @@ const QPixmap& PictureView::scaled(QSize size) {
 void PictureView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), palette().brush(QPalette::Base));
-    if (!picture_.isNull()) {
+    if (picture_.isNull()) {
+        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, placeholder_);
+    } else if (quick_) {
+        painter.drawImage(pictureRect(), picture_);
+    } else {
         const QRect place = pictureRect();
         painter.drawPixmap(place.topLeft(), scaled(place.size()));
     }

@@ -27,6 +27,10 @@ public:
     void setPicture(const QImage& picture);
     /// Whether the picture fills its place whatever its shape.
     void setStretched(bool stretched);
+    /// Scales by the nearest pixels, for pictures that come in quick succession.
+    void setQuick(bool quick) { quick_ = quick; }
+    /// What stands in an empty place.
+    void setPlaceholder(const QString& text) { placeholder_ = text; }
     /// Whether a click waits for a second one that would make it a double click.
     bool waiting() const { return pending_.isActive(); }
     /// Lets go of the listeners.
@@ -49,7 +53,9 @@ private:
     Slots slots_;
     QImage picture_;
     QPixmap scaled_;
+    QString placeholder_;
     bool stretched_ = false;
+    bool quick_ = false;
     bool pressed_ = false;
     QBasicTimer pending_;
 };

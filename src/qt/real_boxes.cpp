@@ -23,6 +23,11 @@ QMessageBox::Icon realIcon(ports::Icon icon) {
     return QMessageBox::NoIcon;
 }
 
+bool defaultsToNo(ports::Icon icon, ports::DefaultAnswer answer) {
+    return answer == ports::DefaultAnswer::No ||
+           (answer == ports::DefaultAnswer::Usual && icon == ports::Icon::Critical);
+}
+
 void prepare(QMessageBox& box, const QString& name, const QString& title, const QString& text, ports::Icon icon) {
     box.setObjectName(name);
     box.setWindowTitle(title);
@@ -44,12 +49,12 @@ void RealBoxes::message(const QString& text, ports::Icon icon) {
     tell(QStringLiteral("message"), text, icon);
 }
 
-bool RealBoxes::ask(const QString& text, ports::Icon icon) {
+bool RealBoxes::ask(const QString& text, ports::Icon icon, const ports::Asking& asking) {
     QMessageBox box(QApplication::activeWindow());
-    prepare(box, QStringLiteral("question"), ports::kQuestionTitle, text, icon);
+    prepare(box, QStringLiteral("question"), asking.title.isEmpty() ? ports::kQuestionTitle : asking.title, text, icon);
     auto* yes = box.addButton(QObject::tr("&Oui"), QMessageBox::YesRole);
     auto* no = box.addButton(QObject::tr("&Non"), QMessageBox::NoRole);
-    box.setDefaultButton(icon == ports::Icon::Critical ? no : yes);
+    box.setDefaultButton(defaultsToNo(icon, asking.defaultAnswer) ? no : yes);
     box.setEscapeButton(no);
     box.exec();
     return box.clickedButton() == yes;

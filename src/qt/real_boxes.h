@@ -8,8 +8,8 @@ namespace qt {
 class RealBoxes final : public ports::Boxes {
 public:
     void message(const QString& text, ports::Icon icon) override;
-    /// Enter answers Yes, but No where the icon is a critical one; Escape answers No.
-    bool ask(const QString& text, ports::Icon icon) override;
+    /// Escape answers No.
+    bool ask(const QString& text, ports::Icon icon, const ports::Asking& asking) override;
     void report(const base::RuntimeError& error) override;
 };
 

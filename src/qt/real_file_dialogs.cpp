@@ -15,6 +15,27 @@ QString anyCase(const QString& pattern) {
     return pattern == pattern.toLower() ? pattern : pattern + u' ' + pattern.toLower();
 }
 
+// "jpg" and "bmp" of "Jpeg|*.jpg|Bitmap|*.bmp".
+QStringList endingsOf(const QString& filter) {
+    const QStringList parts = filter.split(u'|');
+    QStringList endings;
+    for (qsizetype i = 1; i < parts.size(); i += 2) {
+        endings << parts[i].section(u';', 0, 0).section(u'.', -1);
+    }
+    return endings;
+}
+
+void prepare(QFileDialog& dialog, const QString& name, const QString& filter, const QString& proposed) {
+    dialog.setObjectName(name);
+    dialog.setProperty("filterText", filter);
+    dialog.setProperty("proposed", proposed);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setNameFilter(toolkitFilter(filter));
+    if (!proposed.isEmpty()) {
+        dialog.selectFile(proposed);
+    }
+}
+
 }  // namespace
 
 QString toolkitFilter(const QString& filter) {
@@ -32,17 +53,39 @@ QString toolkitFilter(const QString& filter) {
 }
 
 QString RealFileDialogs::open(const QString& filter, const QString& proposed) {
-    QFileDialog dialog(QApplication::activeWindow(), QObject::tr("Ouvrir"),
-                       folder_.isEmpty() ? QDir::homePath() : folder_);
-    dialog.setObjectName(QStringLiteral("open"));
-    dialog.setProperty("filterText", filter);
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setNameFilter(toolkitFilter(filter));
+    QFileDialog dialog(QApplication::activeWindow(), QObject::tr("Ouvrir"), lastFolder());
+    prepare(dialog, QStringLiteral("open"), filter, proposed == u"*.*" ? QString() : proposed);
     dialog.setProperty("proposed", proposed);
-    if (!proposed.isEmpty() && proposed != u"*.*") {
-        dialog.selectFile(proposed);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return run(dialog);
+}
+
+std::optional<ports::SaveChoice> RealFileDialogs::save(const ports::SaveRequest& request) {
+    QFileDialog dialog(QApplication::activeWindow(), QObject::tr("Enregistrer sous"),
+                       request.folder.isEmpty() ? lastFolder() : request.folder);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    // A name without ending gets that of the filter, before it is looked up whether the file is there.
+    const QStringList endings = endingsOf(request.filter);
+    const auto follow = [&dialog, endings] {
+        dialog.setDefaultSuffix(endings.value(dialog.nameFilters().indexOf(dialog.selectedNameFilter())));
+    };
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, follow);
+    prepare(dialog, QStringLiteral("save"), request.filter, request.proposed);
+    dialog.selectNameFilter(dialog.nameFilters().value(request.filterIndex - 1));
+    follow();
+    const QString file = run(dialog);
+    if (file.isEmpty()) {
+        return {};
     }
+    return ports::SaveChoice{file, static_cast<int>(dialog.nameFilters().indexOf(dialog.selectedNameFilter())) + 1};
+}
+
+QString RealFileDialogs::lastFolder() const {
+    return folder_.isEmpty() ? QDir::homePath() : folder_;
+}
+
+QString RealFileDialogs::run(QFileDialog& dialog) {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};
     }

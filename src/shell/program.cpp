@@ -16,7 +16,9 @@
 #include "gyneco/form16.h"
 #include "gyneco/form17.h"
 #include "gyneco/form18.h"
+#include "pictures/form19.h"
 #include "pictures/form20.h"
+#include "pictures/frm_cpr.h"
 #include "reports/riche_t.h"
 #include "responses/form9.h"
 #include "shell/form0.h"
@@ -54,7 +56,9 @@ void Program::addWindows() {
     desk_.add(QStringLiteral("Form16"), [this] { return std::make_unique<gyneco::Form16>(gynaecology_); });
     desk_.add(QStringLiteral("Form18"), [this] { return std::make_unique<gyneco::Form18>(gynaecology_); });
     desk_.add(QStringLiteral("Form17"), [this] { return std::make_unique<gyneco::Form17>(gynaecology_); });
+    desk_.add(QStringLiteral("Form19"), [this] { return std::make_unique<pictures::Form19>(around_); });
     desk_.add(QStringLiteral("Form20"), [this] { return std::make_unique<pictures::Form20>(around_); });
+    desk_.add(QStringLiteral("FrmCpr"), [this] { return std::make_unique<pictures::FrmCpr>(around_); });
     desk_.add(QStringLiteral("Form21"), [this] { return std::make_unique<Form21>(around_, state_); });
     desk_.add(QStringLiteral("Form22"), [this] { return std::make_unique<Form22>(around_, state_); });
     desk_.add(QStringLiteral("RicheT"), [this] { return std::make_unique<reports::RicheT>(around_); });

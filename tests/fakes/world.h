@@ -48,9 +48,13 @@ private:
 /// Writes down what is said; answers questions in the order of `answers`, No when they run out.
 class Boxes final : public ports::Boxes {
 public:
-    void message(const QString& text, ports::Icon) override { said << text; }
-    bool ask(const QString& text, ports::Icon icon) override {
+    void message(const QString& text, ports::Icon icon) override {
+        said << text;
+        saidIcons << icon;
+    }
+    bool ask(const QString& text, ports::Icon icon, const ports::Asking& asking) override {
         asked << text;
+        askings << asking;
         icons << icon;
         whenAsked();
         return !answers.isEmpty() && answers.takeFirst();
@@ -61,8 +65,10 @@ public:
     }
 
     QStringList said;
+    QList<ports::Icon> saidIcons;
     QStringList asked;
     QList<ports::Icon> icons;
+    QList<ports::Asking> askings;
     QList<bool> answers;
     QList<int> reported;
     QStringList reportedTexts;
@@ -77,9 +83,16 @@ public:
         return chosen;
     }
 
+    std::optional<ports::SaveChoice> save(const ports::SaveRequest& request) override {
+        saves << request;
+        return savedAs;
+    }
+
     QString chosen;
     QStringList filters;
     QStringList proposals;
+    std::optional<ports::SaveChoice> savedAs;  // none: Cancel
+    QList<ports::SaveRequest> saves;
 };
 
 class Help final : public ports::Help {
@@ -170,6 +183,30 @@ public:
     bool fails = false;
 };
 
+/// A camera that shows one picture; without one there is no connection.
+class PictureSource final : public ports::PictureSource {
+public:
+    void start(std::function<void(const QImage&)> live) override {
+        live_ = std::move(live);
+        show(picture);
+    }
+    void stop() override { live_ = nullptr; }
+    QImage grab() override { return picture; }
+
+    bool running() const { return static_cast<bool>(live_); }
+    /// What it shows from now on.
+    void show(const QImage& now) {
+        picture = now;
+        if (live_) {
+            live_(picture);
+        }
+    }
+    QImage picture;
+
+private:
+    std::function<void(const QImage&)> live_;
+};
+
 /// A machine with a folder of its own for the program.
 class World {
 public:
@@ -182,8 +219,10 @@ public:
     Printers printers;
     FontDialog fontDialog;
     Clipboard clipboard;
+    PictureSource pictureSource;
     forms::Desk desk;
-    ports::Machine machine{clock, settings, boxes, fileDialogs, help, printers, fontDialog, clipboard, folder.path()};
+    ports::Machine machine{clock,    settings,   boxes,     fileDialogs,   help,
+                           printers, fontDialog, clipboard, pictureSource, folder.path()};
     ports::Surroundings around{machine, desk};
 
     World() {

@@ -10,42 +10,20 @@
 #include <QtEndian>
 
 #include "base/errors.h"
+#include "pictures/samples.h"
 
 namespace pictures {
 namespace {
-
-/// Grey bands and one red corner: enough to know it again after JPEG.
-QImage sample(int width, int height) {
-    QImage image(width, height, QImage::Format_RGB32);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            const int grey = (x / 16 + y / 16) % 2 ? 40 : 200;
-            image.setPixel(x, y, x < width / 2 && y < height / 2 ? qRgb(220, 30, 30) : qRgb(grey, grey, grey));
-        }
-    }
-    return image;
-}
-
-bool alike(QRgb a, QRgb b, int tolerance = 12) {
-    return qAbs(qRed(a) - qRed(b)) <= tolerance && qAbs(qGreen(a) - qGreen(b)) <= tolerance &&
-           qAbs(qBlue(a) - qBlue(b)) <= tolerance;
-}
 
 class PictureFile : public ::testing::Test {
 protected:
     QString path(const QString& name) const { return folder_.filePath(name); }
 
     QString put(const QString& name, const QByteArray& bytes) const {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        return file.fileName();
+        pictures::put(path(name), bytes);
+        return path(name);
     }
-    QByteArray bytesOf(const QString& name) const {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
+    QByteArray bytesOf(const QString& name) const { return pictures::bytesOf(path(name)); }
     QString write(const QString& name, const char* format, const QImage& image = sample(160, 120)) const {
         QImageWriter writer(path(name), format);
         writer.setQuality(95);

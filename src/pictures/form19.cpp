@@ -1,0 +1,310 @@
+#include "pictures/form19.h"
+
+#include <QDir>
+
+#include "base/dates.h"
+#include "base/numbers.h"
+#include "base/quoted_items.h"
+#include "base/text_file.h"
+#include "dossier/form4.h"
+#include "forms/desk.h"
+#include "pictures/bitmap_file.h"
+#include "pictures/common_dialog.h"
+#include "pictures/frm_cpr.h"
+#include "pictures/picture_file.h"
+
+namespace pictures {
+namespace {
+
+using ports::Icon;
+
+const QString kNoCard = QStringLiteral("Pas de connection à la carte video");
+const QString kNoPicture = QStringLiteral(
+    "Pas d'image selectionnéee. Veuillez selectionner le cliché à archiver par double clic sur le coin "
+    "de l'image désirée.");
+const QString kNotCaptured = QStringLiteral("Veuillez capturer une image avant de la selectionner.");
+const QString kTooFew = QStringLiteral("Veuillez selectionner %1 clichés.");
+const QString kArchiveFilter = QStringLiteral("Fichiers Jpeg (*.JPG)|*.jpg|Fichiers BMP (*.BMP)|*.bmp");
+const QString kBitmapFilter = QStringLiteral("Fichiers BMP (*.BMP)|*.bmp");
+const QString kJpegFilter = QStringLiteral("Fichiers JPG (*.JPG)|*.jpg");
+constexpr int kJpeg = 1;
+
+/// A date text as it stands in the names of pictures: year, month and day of two digits each. What is no date stays.
+QString compactDate(const QString& text, QDate today) {
+    const auto date = base::readDate(text, today);
+    return date ? date->toString(QStringLiteral("yyMMdd")) : text;
+}
+
+}  // namespace
+
+Form19::Form19(ports::Surroundings& around)
+    : Form(around.desk, kName.toString(), QStringLiteral("Gestion des clichés")), around_(around) {
+    Fichiers.holds(OuvJpg, EnregBmp, EnregJpg, imprimer, Archiver, Album, Qui);
+    Image3.hide();
+    Command6.hide();
+    wireFiles();
+    wireWall();
+}
+
+void Form19::wireFiles() {
+    OuvJpg.onClick = [this] { openPicture(); };
+    EnregBmp.onClick = [this] { Enreg_BMP(); };
+    EnregJpg.onClick = [this] { Enreg_JPG(); };
+    imprimer.onClick = [this] { printOnChosen(); };
+    Archiver.onClick = [this] { ARCHIVE(); };
+    Album.onClick = [this] { desk().show(QStringLiteral("Form20")); };
+    Qui.onClick = [this] { unload(); };
+    Command4.onClick = [this] { CAPTURE(); };
+    Command5.onClick = [this] { ARCHIVE(); };
+    Command1.onClick = [this] { Imprim(); };
+}
+
+void Form19::wireWall() {
+    for (int slot = 1; slot <= kSlots; ++slot) {
+        Image1(slot).hide();
+        Image2(slot).onClick = [this, slot] { select(slot); };
+        Image2(slot).onDoubleClick = [this, slot] { view(slot); };
+    }
+    Command2.onClick = [this] { clearSelection(); };
+    Command3.onClick = [this] {
+        clearSelection();
+        clearWall();
+    };
+    Command6.onClick = [this] { closeView(); };
+}
+
+void Form19::load() {
+    takeIdentity();
+    around_.pictureSource.start([this](const QImage& frame) { ezVidCap1.setPicture(frame); });
+}
+
+void Form19::unloading() {
+    around_.pictureSource.stop();
+    clearSelection();
+    clearWall();
+    base::replaceTextFile(around_.programFolder + QStringLiteral("/Entet.txt"),
+                          base::quotedItem(TxtEntete.text()) + QStringLiteral("\r\n"));
+}
+
+// Without its bases the dossier window can't come up: nobody is named then.
+void Form19::takeIdentity() {
+    txtDatexam.setText(base::shortDate(around_.clock.today()));
+    try {
+        const auto& dossier = desk().at<dossier::Form4>();
+        TxtEntete.setText(dossier.TxtEta.text());
+        TxtNom.setText(dossier.NomLbl.text());
+        TxtPrenom.setText(dossier.PrenomLbl.text());
+        CmbCivilite.setText(dossier.LblCivilite.text());
+    } catch (const base::RuntimeError&) {
+        for (forms::TextControl* field :
+             std::initializer_list<forms::TextControl*>{&TxtEntete, &TxtNom, &TxtPrenom, &CmbCivilite}) {
+            field->setText({});
+        }
+    }
+}
+
+QString Form19::slotFile(int slot) const {
+    return QStringLiteral("%1/Cliche%2.BMP").arg(around_.programFolder).arg(slot);
+}
+
+void Form19::CAPTURE() {
+    counter_ = static_cast<std::int16_t>(counter_ % kSlots + 1);
+    const QImage frame = around_.pictureSource.grab();
+    try {
+        saveSlot(frame, slotFile(counter_));
+        Image2(counter_).setPicture(loadPicture(slotFile(counter_)));
+    } catch (const base::RuntimeError&) {
+        around_.boxes.message(kNoCard);
+    }
+}
+
+std::span<const SheetPlace> Form19::places() const {
+    const SheetOption options[] = {
+        {Option2, kTwoPlaces}, {Option4, kFourPlaces}, {Option6, kSixPlaces}, {Option8, kEightPlaces}};
+    for (const SheetOption& sheet : options) {
+        if (sheet.option.checked()) {
+            return sheet.places;
+        }
+    }
+    return {};
+}
+
+void Form19::select(int slot) {
+    if (selection_.size() >= places().size()) {
+        return;
+    }
+    if (Image2(slot).empty()) {
+        around_.boxes.message(kNotCaptured);
+        return;
+    }
+    selection_.push_back(Image2(slot).picture());
+    Image1(slot).show();
+}
+
+void Form19::view(int slot) {
+    if (Image2(slot).empty()) {
+        return;
+    }
+    Image1(slot).hide();
+    Image3.setPicture(Image2(slot).picture());
+    Image3.show();
+    Command6.show();
+}
+
+void Form19::closeView() {
+    Image3.hide();
+    Command6.hide();
+    Image3.clear();
+}
+
+void Form19::clearSelection() {
+    selection_.clear();
+    for (int slot = 1; slot <= kSlots; ++slot) {
+        Image1(slot).hide();
+    }
+}
+
+void Form19::clearWall() {
+    for (int slot = 1; slot <= kSlots; ++slot) {
+        Image2(slot).clear();
+    }
+}
+
+void Form19::openPicture() {
+    OpenFile request{.filter = QStringLiteral("Images (*.BMP;*.JPG;*.ICO)|*.BMP;*.JPG;*.ICO")};
+    if (!openFile(around_.fileDialogs, request)) {
+        return;
+    }
+    Image3.show();
+    Command6.show();
+    try {
+        Image3.setPicture(loadPicture(request.file));
+    } catch (const base::RuntimeError&) {
+        around_.boxes.message(QStringLiteral("Fichier non chargé '%1'").arg(request.file), Icon::Information);
+    }
+}
+
+bool Form19::nothingToSave() {
+    if (Image3.empty()) {
+        around_.boxes.message(kNoPicture);
+    }
+    return Image3.empty();
+}
+
+bool Form19::chooseName(const ports::SaveRequest& request, int& filter) {
+    const auto choice = around_.fileDialogs.save(request);
+    if (choice) {
+        fileName_ = choice->file;
+        filter = choice->filter;
+    }
+    return choice.has_value();
+}
+
+QString Form19::shortName() const {
+    constexpr int kSurname = 4, kFirstName = 3;
+    return TxtNom.text().left(kSurname) + u'_' + TxtPrenom.text().left(kFirstName);
+}
+
+void Form19::ARCHIVE() {
+    if (nothingToSave()) {
+        return;
+    }
+    std::int32_t number = 0;
+    try {
+        number = TxtNumEcho.text().isEmpty() ? 0 : base::toInt32(base::toNumber(TxtNumEcho.text()));
+    } catch (const base::RuntimeError&) {
+        return;
+    }
+    const QString folder = around_.programFolder + QStringLiteral("/VIDEOTEK");
+    QDir().mkpath(folder);
+    int filter = kJpeg;
+    const QString date = compactDate(txtDatexam.text(), around_.clock.today());
+    if (!chooseName({.filter = kArchiveFilter,
+                     .proposed = QStringLiteral("%1%2_%3").arg(shortName(), date).arg(number),
+                     .folder = folder,
+                     .filterIndex = kJpeg},
+                    filter)) {
+        return;
+    }
+    if (filter == kJpeg) {
+        desk().show(FrmCpr::kName.toString());
+        return;
+    }
+    saveBitmap();
+    offerToAlbum(around_, albumEntry());
+}
+
+void Form19::Enreg_BMP() {
+    int filter = 1;
+    if (nothingToSave() || !chooseName({.filter = kBitmapFilter, .proposed = shortName()}, filter)) {
+        return;
+    }
+    around_.boxes.message(fileName_);
+    saveBitmap();
+}
+
+void Form19::Enreg_JPG() {
+    int filter = 1;
+    if (nothingToSave() || !chooseName({.filter = kJpegFilter, .proposed = shortName()}, filter)) {
+        return;
+    }
+    around_.boxes.message(fileName_);
+    desk().show(FrmCpr::kName.toString());
+}
+
+void Form19::saveBitmap() const {
+    savePicture(Image3.picture(), fileName_);
+}
+
+AlbumEntry Form19::albumEntry() const {
+    return {Image3.picture(), fileName_, TxtNom.text(), TxtPrenom.text(), txtDatexam.text(), TxtNumEcho.text()};
+}
+
+void Form19::ENTETE() {
+    sheet_->line();
+    sheet_->setBold(true);
+    sheet_->setSize(kSheetText);
+    sheet_->line(TxtEntete.text());
+    sheet_->line();
+    sheet_->line(QStringLiteral("%1 %2 %3").arg(CmbCivilite.text(), TxtNom.text(), TxtPrenom.text()));
+    sheet_->setBold(false);
+    sheet_->line(txtDatexam.text());
+    sheet_->setTop(kFooterTop);
+    sheet_->line(footer());
+}
+
+void Form19::Imprim() {
+    print(around_.printers.standard().get());
+}
+
+void Form19::printOnChosen() {
+    try {
+        if (const auto printer = around_.printers.choose()) {
+            print(printer.get());
+        }
+    } catch (const base::RuntimeError&) {
+        // The person has seen the printer's own dialog; the sheet is simply not there.
+        sheet_.reset();
+    }
+}
+
+void Form19::print(ports::Printer* printer) {
+    const std::span<const SheetPlace> sheet = places();
+    if (selection_.size() < sheet.size()) {
+        around_.boxes.message(kTooFew.arg(sheet.size()));
+        return;
+    }
+    if (sheet.empty()) {
+        return;
+    }
+    if (!printer) {
+        throw base::RuntimeError(base::ErrorNumber::DeviceError);
+    }
+    const forms::BusyPointer busy(*this);
+    sheet_.emplace(*printer, title());
+    ENTETE();
+    sheet_->draw(selection_, sheet);
+    sheet_.reset();
+}
+
+}  // namespace pictures
