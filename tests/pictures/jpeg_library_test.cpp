@@ -145,7 +145,8 @@ TEST_F(JpegLibrary, AReadOnlyFileIsReplacedAndStaysReadOnly) {
 TEST_F(JpegLibrary, AnotherNameOfTheFileSeesTheNewPicture) {
     put(path("old.jpg"), "old");
     ASSERT_TRUE(QFile::link(path("old.jpg"), path("link.jpg")));
-    ASSERT_EQ(::link(QFile::encodeName(path("old.jpg")), QFile::encodeName(path("hard.jpg"))), 0);
+    ASSERT_EQ(::link(QFile::encodeName(path("old.jpg")).constData(), QFile::encodeName(path("hard.jpg")).constData()),
+              0);
     EXPECT_TRUE(save(path("link.jpg")));
     EXPECT_EQ(loadPicture(path("old.jpg")).size(), QSize(160, 120));
     EXPECT_EQ(loadPicture(path("hard.jpg")).size(), QSize(160, 120));
