@@ -8,6 +8,9 @@ namespace pictures {
 /// The most pictures that a sheet of the album takes.
 inline constexpr int kMostOnSheet = 6;
 
+/// The most places that any sheet has.
+inline constexpr int kMostPlaces = 8;
+
 /// Where the upper left corner of a picture stands.
 struct Corner {
     int x = 0;
@@ -19,7 +22,7 @@ struct Arrangement {
     int places = 0;
     int width = 0;
     int height = 0;
-    std::array<Corner, kMostOnSheet> corners{};
+    std::array<Corner, kMostPlaces> corners{};
 };
 
 /// On paper, in millimetres from the first point that the printer reaches.
@@ -28,6 +31,7 @@ inline constexpr auto kOnPaper = std::to_array<Arrangement>({
     {2, 155, 115, {{{25, 30}, {25, 152}}}},
     {4, 95, 70, {{{5, 70}, {105, 70}, {5, 155}, {105, 155}}}},
     {6, 95, 70, {{{5, 30}, {105, 30}, {5, 112}, {105, 112}, {5, 192}, {105, 192}}}},
+    {8, 80, 60, {{{15, 25}, {110, 25}, {15, 87}, {110, 87}, {15, 149}, {110, 149}, {15, 211}, {110, 211}}}},
 });
 
 /// On the small page on screen, in twips from its upper left corner.
@@ -42,7 +46,7 @@ inline constexpr auto kOnScreen = std::to_array<Arrangement>({
 inline constexpr int kPreviewWidth = 3495;
 inline constexpr int kPreviewHeight = 4695;
 
-/// The arrangement for so many pictures, 1 to 6: the one with the fewest places that are enough.
+/// The arrangement for so many pictures: the one with the fewest places that are enough.
 constexpr const Arrangement& arrangementFor(std::span<const Arrangement> all, int pictures) {
     std::size_t at = 0;
     while (all[at].places < pictures) {

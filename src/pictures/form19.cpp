@@ -1,6 +1,7 @@
 #include "pictures/form19.h"
 
 #include <QDir>
+#include <iterator>
 
 #include "base/dates.h"
 #include "base/numbers.h"
@@ -118,19 +119,18 @@ void Form19::CAPTURE() {
     }
 }
 
-std::span<const SheetPlace> Form19::places() const {
-    const SheetOption options[] = {
-        {Option2, kTwoPlaces}, {Option4, kFourPlaces}, {Option6, kSixPlaces}, {Option8, kEightPlaces}};
-    for (const SheetOption& sheet : options) {
-        if (sheet.option.checked()) {
-            return sheet.places;
+int Form19::places() const {
+    const std::pair<const forms::Option&, int> options[] = {{Option2, 2}, {Option4, 4}, {Option6, 6}, {Option8, 8}};
+    for (const auto& [option, number] : options) {
+        if (option.checked()) {
+            return number;
         }
     }
-    return {};
+    return 0;
 }
 
 void Form19::select(int slot) {
-    if (selection_.size() >= places().size()) {
+    if (std::ssize(selection_) >= places()) {
         return;
     }
     if (Image2(slot).empty()) {
@@ -260,17 +260,15 @@ AlbumEntry Form19::albumEntry() const {
     return {Image3.picture(), fileName_, TxtNom.text(), TxtPrenom.text(), txtDatexam.text(), TxtNumEcho.text()};
 }
 
-void Form19::ENTETE() {
-    sheet_->line();
-    sheet_->setBold(true);
-    sheet_->setSize(kSheetText);
-    sheet_->line(TxtEntete.text());
-    sheet_->line();
-    sheet_->line(QStringLiteral("%1 %2 %3").arg(CmbCivilite.text(), TxtNom.text(), TxtPrenom.text()));
-    sheet_->setBold(false);
-    sheet_->line(txtDatexam.text());
-    sheet_->setTop(kFooterTop);
-    sheet_->line(footer());
+std::vector<SheetLine> Form19::ENTETE() const {
+    return {
+        openingLine(),
+        {.text = TxtEntete.text(), .bold = true},
+        {.text = {}, .bold = true},
+        {.text = QStringLiteral("%1 %2 %3").arg(CmbCivilite.text(), TxtNom.text(), TxtPrenom.text()), .bold = true},
+        {.text = txtDatexam.text()},
+        footLine(),
+    };
 }
 
 void Form19::Imprim() {
@@ -284,27 +282,27 @@ void Form19::printOnChosen() {
         }
     } catch (const base::RuntimeError&) {
         // The person has seen the printer's own dialog; the sheet is simply not there.
-        sheet_.reset();
     }
 }
 
 void Form19::print(ports::Printer* printer) {
-    const std::span<const SheetPlace> sheet = places();
-    if (selection_.size() < sheet.size()) {
-        around_.boxes.message(kTooFew.arg(sheet.size()));
+    const int number = places();
+    if (std::ssize(selection_) < number) {
+        around_.boxes.message(kTooFew.arg(number));
         return;
     }
-    if (sheet.empty()) {
+    if (number == 0) {
         return;
     }
     if (!printer) {
         throw base::RuntimeError(base::ErrorNumber::DeviceError);
     }
     const forms::BusyPointer busy(*this);
-    sheet_.emplace(*printer, title());
-    ENTETE();
-    sheet_->draw(selection_, sheet);
-    sheet_.reset();
+    SheetPage page(*printer, title());
+    for (const SheetLine& line : ENTETE()) {
+        page.print(line);
+    }
+    page.draw(selection_, arrangementFor(kOnPaper, number));
 }
 
 }  // namespace pictures

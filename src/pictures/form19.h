@@ -9,7 +9,7 @@
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "pictures/album_entry.h"
-#include "pictures/sheet.h"
+#include "pictures/sheet_page.h"
 #include "ports/surroundings.h"
 
 namespace pictures {
@@ -63,8 +63,8 @@ public:
     void CAPTURE();
     void Enreg_BMP();
     void Enreg_JPG();
-    /// Writes the heading of the sheet at hand.
-    void ENTETE();
+    /// The heading and the foot of a sheet.
+    std::vector<SheetLine> ENTETE() const;
     /// Prints the selected pictures on one sheet of the printer that serves where none is chosen.
     void Imprim();
 
@@ -75,11 +75,6 @@ public:
     const std::vector<QImage>& selection() const { return selection_; }
 
 private:
-    struct SheetOption {
-        const forms::Option& option;
-        std::span<const SheetPlace> places;
-    };
-
     void wireFiles();
     void wireWall();
     void load() override;
@@ -98,15 +93,14 @@ private:
     bool chooseName(const ports::SaveRequest& request, int& filter);
     QString shortName() const;
     QString slotFile(int slot) const;
-    /// The places of a sheet as the options say; none if none is on.
-    std::span<const SheetPlace> places() const;
+    /// How many pictures a sheet takes as the options say; 0 if none is on.
+    int places() const;
 
     ports::Surroundings& around_;
     std::int16_t counter_ = 0;
     std::vector<QImage> selection_;
     /// The name that was last chosen in the dialog.
     QString fileName_;
-    std::optional<Sheet> sheet_;
 };
 
 }  // namespace pictures

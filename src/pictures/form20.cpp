@@ -18,12 +18,6 @@ const QString kPath = QStringLiteral("NOMPATH");
 // How many characters of a line hold the picture's number.
 constexpr int kNumberWidth = 5;
 
-// What the printer writes with until it is told otherwise.
-constexpr double kPrinterPoints = 10;
-// The foot of a sheet, in millimetres from the top, and the blanks inside it.
-constexpr double kFoot = 275;
-constexpr int kFootBlanks = 210;
-
 // Whether a failure on the way to a picture tells that its line or its file is at fault, not the album.
 bool leadsNowhere(base::ErrorNumber number) {
     using enum base::ErrorNumber;
@@ -386,13 +380,13 @@ QString Form20::captureHeading() const {
 
 std::vector<SheetLine> Form20::ENTETE() const {
     return {
-        {.text = {}, .points = kPrinterPoints},
+        openingLine(),
         {.text = captureHeading(), .bold = true},
         {.text = {}, .bold = true},
         {.text = TxtNom.text() + u' ' + TxtPrenom.text(), .bold = true},
         {.text = TxtDate.text()},
         {.text = TxtImp.text()},
-        {.text = QStringLiteral("MORVALT") + QString(kFootBlanks, u' ') + QStringLiteral("Pelorine"), .top = kFoot},
+        footLine(),
     };
 }
 
@@ -405,11 +399,7 @@ void Form20::print(ports::Printer& printer) const {
     for (const SheetLine& line : header) {
         page.print(line);
     }
-    const Arrangement& arrangement = arrangementFor(kOnPaper, static_cast<int>(sheet_.size()));
-    for (std::size_t i = 0; i < sheet_.size(); ++i) {
-        const Corner corner = arrangement.corners.at(i);
-        page.draw(sheet_[i], QRectF(corner.x, corner.y, arrangement.width, arrangement.height));
-    }
+    page.draw(sheet_, arrangementFor(kOnPaper, static_cast<int>(sheet_.size())));
 }
 
 void Form20::Imprime() {

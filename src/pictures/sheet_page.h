@@ -4,7 +4,9 @@
 #include <QString>
 #include <memory>
 #include <optional>
+#include <span>
 
+#include "pictures/album_sheet.h"
 #include "ports/printer.h"
 
 class QImage;
@@ -22,6 +24,11 @@ struct SheetLine {
     bool operator==(const SheetLine&) const = default;
 };
 
+/// What opens a page: an empty line of the printer's own size.
+SheetLine openingLine();
+/// The foot of a page, which has its own place. The blanks inside it carry its second word off the paper.
+SheetLine footLine();
+
 /// The one page of a picture sheet on its way to a printer. Its origin is the first point that the printer reaches.
 /// What comes later lies over what came before. Letting go of it ends the document.
 class SheetPage {
@@ -32,6 +39,8 @@ public:
     void print(const SheetLine& line);
     /// Stretches a picture to a rectangle in millimetres, whatever its shape. All its pixels go to the printer.
     void draw(const QImage& picture, const QRectF& place);
+    /// Draws pictures in their order into the places of an arrangement; those without a place are left out.
+    void draw(std::span<const QImage> pictures, const Arrangement& arrangement);
 
 private:
     ports::PageGeometry page_;

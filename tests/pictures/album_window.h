@@ -150,8 +150,9 @@ protected:
 
     fakes::World world_;
     PaperPrinters printers_;
-    ports::Machine machine_{world_.clock, world_.settings,   world_.boxes,     world_.fileDialogs,  world_.help,
-                            printers_,    world_.fontDialog, world_.clipboard, world_.folder.path()};
+    ports::Machine machine_{world_.clock,         world_.settings,     world_.boxes,      world_.fileDialogs,
+                            world_.help,          printers_,           world_.fontDialog, world_.clipboard,
+                            world_.pictureSource, world_.folder.path()};
     ports::Surroundings around_{machine_, world_.desk};
 };
 

@@ -167,7 +167,7 @@ TEST(SupervisorOnRealSettings, FindsWhatItSavedUnderTheReadersSpelling) {
     fakes::World world;
     ports::SettingsFile settings(world.folder.filePath("reglages.ini"));
     Program program({world.clock, settings, world.boxes, world.fileDialogs, world.help, world.printers,
-                     world.fontDialog, world.clipboard, world.folder.path()});
+                     world.fontDialog, world.clipboard, world.pictureSource, world.folder.path()});
     auto& form = program.desk().at<Form22>();
     form.Text1.setText("/r/ECHO.MDB");
     program.desk().act([&] { form.Command2.click(); });
@@ -179,7 +179,7 @@ TEST(SupervisorOnRealSettings, StaysOpenWithItsEntriesWhenTheyCannotBeSaved) {
     fakes::World world;
     ports::SettingsFile settings("/dev/null/reglages.ini");
     Program program({world.clock, settings, world.boxes, world.fileDialogs, world.help, world.printers,
-                     world.fontDialog, world.clipboard, world.folder.path()});
+                     world.fontDialog, world.clipboard, world.pictureSource, world.folder.path()});
     program.desk().act([&] { program.desk().show("Form22"); });
     auto& form = program.desk().at<Form22>();
     form.Text1.setText("/r/ECHO.MDB");
