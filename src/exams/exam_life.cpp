@@ -1,5 +1,7 @@
 #include "exams/exam_life.h"
 
+#include "pictures/form19.h"
+
 #include "base/numbers.h"
 
 namespace exams {
@@ -83,7 +85,11 @@ void ExamLife::showWith(const QString& window, const QList<std::pair<QString, QS
 }
 
 void ExamLife::showCapture(const QString& examNumber) const {
-    showWith(QStringLiteral("Form19"), {{QStringLiteral("TxtNumEcho"), examNumber}});
+    desk().show(pictures::Form19::kName.toString());
+    if (auto* window = desk().peek<pictures::Form19>()) {
+        window->takeIdentity();
+        window->TxtNumEcho.setText(examNumber);
+    }
 }
 
 void ExamLife::returnToDossier() const {

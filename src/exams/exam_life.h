@@ -47,7 +47,8 @@ public:
 
     /// Shows a window and writes texts into its controls, each under its name.
     void showWith(const QString& window, const QList<std::pair<QString, QString>>& texts) const;
-    /// Brings up the capture of pictures for the exam of this number.
+    /// Opens the capture window for an exam of the open dossier. One that is open already takes its patient and today's
+    /// date; its pictures stay.
     void showCapture(const QString& examNumber) const;
     /// Takes the dossier window away and brings a fresh one, which opens its files anew. It alone ends on screen.
     void returnToDossier() const;

@@ -11,9 +11,7 @@ Form16::Form16(GynaecologyExams& exams)
       sheet(*this, exams),
       exams_(exams) {
     CmdEnregis.onClick = [this] { save(); };
-    CmdPhotos.onClick = [this] {
-        exams_.life().showWith(QStringLiteral("Form19"), {{QStringLiteral("TxtNumEcho"), sheet.TxtNumEcho.text()}});
-    };
+    CmdPhotos.onClick = [this] { exams_.life().showCapture(sheet.TxtNumEcho.text()); };
     CmdQuitter.onClick = [this] { unload(); };
 }
 

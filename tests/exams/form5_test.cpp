@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include "exams/exam_windows.h"
+#include "pictures/form19.h"
 
 namespace exams {
 namespace {
@@ -484,12 +485,19 @@ TEST_F(WritingWindow, AnOpeningThatFailsShowsNothingOfThePatientBefore) {
 }
 
 TEST_F(WritingWindow, HandsItsNumberToTheWindowOfPictures) {
-    desk().add("Form19", [this] { return std::make_unique<PictureWindow>(desk(), "Form19"); });
+    desk().add("Form19", [this] { return std::make_unique<pictures::Form19>(world_.around); });
     Form5& form = newExam();
     form.sheet.TxtNumEcho.setText("7");
     press(form.CmdPhotos);
     EXPECT_TRUE(shown("Form19"));
-    EXPECT_EQ(static_cast<PictureWindow&>(desk().at("Form19")).TxtNumEcho.text(), "7");
+    auto& window = desk().at<pictures::Form19>();
+    EXPECT_EQ(window.TxtNumEcho.text(), "7");
+    const QString patient = window.TxtNom.text();
+    EXPECT_NE(patient, "");
+    // Opened again it takes the patient anew.
+    window.TxtNom.setText("AUTRE");
+    press(form.CmdPhotos);
+    EXPECT_EQ(window.TxtNom.text(), patient);
 }
 
 TEST_F(WritingWindow, NeedsAnOpenDossier) {

@@ -78,11 +78,10 @@ protected:
     void showGynaecologyExam() override {}
     void nameNewExam(const QString&, const QString&) override {}
 
-    /// What the windows of pictures are handed.
+    /// What the album is handed.
     class PictureWindow final : public forms::Form {
     public:
         PictureWindow(forms::Desk& desk, const QString& name) : Form(desk, name, name) {}
-        forms::TextBox TxtNumEcho{*this, "TxtNumEcho"};
         forms::TextBox TxtRechNom{*this, "TxtRechNom"};
         forms::TextBox TxtRechDate{*this, "TxtRechDate"};
         forms::TextBox TxtRechNumEcho{*this, "TxtRechNumEcho"};

@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include "gyneco/gynaecology_windows.h"
+#include "pictures/form19.h"
 
 namespace gyneco {
 namespace {
@@ -371,12 +372,13 @@ TEST_F(GynaecologyWriting, QuitUnloadsItAndAsksNothing) {
 }
 
 TEST_F(GynaecologyWriting, TheCaptureWindowGetsTheNumber) {
-    desk().add("Form19", [this] { return std::make_unique<PictureWindow>(desk(), "Form19"); });
+    desk().add("Form19", [this] { return std::make_unique<pictures::Form19>(world_.around); });
     Form16& form = newExam();
     form.sheet.TxtNumEcho.setText("7");
     press(form.CmdPhotos);
     EXPECT_TRUE(shown("Form19"));
-    EXPECT_EQ(static_cast<PictureWindow&>(desk().at("Form19")).TxtNumEcho.text(), "7");
+    EXPECT_EQ(desk().at<pictures::Form19>().TxtNumEcho.text(), "7");
+    EXPECT_EQ(desk().at<pictures::Form19>().TxtNom.text(), "DUPONT");
 }
 
 TEST_F(GynaecologyWriting, TheAlbumGetsTheExamInView) {

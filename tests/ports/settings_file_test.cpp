@@ -215,7 +215,7 @@ public:
         said << text;
         EXPECT_EQ(icon, Icon::Exclamation);
     }
-    bool ask(const QString&, Icon) override { return false; }
+    bool ask(const QString&, Icon, const Asking&) override { return false; }
     void report(const base::RuntimeError&) override {}
     QStringList said;
 };
