@@ -176,7 +176,9 @@ void BoxWatcher::answerFile(QFileDialog* dialog) {
     }
     const int filter = given.toObject().value(u"filter").toInt(0);
     if (filter > 0 && filter <= dialog->nameFilters().size()) {
-        dialog->selectNameFilter(dialog->nameFilters().at(filter - 1));
+        const QString chosen = dialog->nameFilters().at(filter - 1);
+        dialog->selectNameFilter(chosen);
+        Q_EMIT dialog->filterSelected(chosen);
     }
     dialog->selectFile(file);
     static_cast<QDialog*>(dialog)->setResult(QDialog::Accepted);

@@ -1,5 +1,7 @@
 """Pictures during an examination: grabbed, looked at, printed, saved and archived."""
 
+import os
+
 import pytest
 from pictures import Page, plain
 from port import PortError
@@ -12,7 +14,7 @@ COLORS = [
     (150, 40, 170),
     (20, 160, 170),
     (230, 110, 40),
-    (110, 110, 110),
+    (120, 130, 220),
     (90, 40, 20),
     (20, 60, 40),
     (250, 180, 190),
@@ -260,6 +262,7 @@ def in_full_size(port):
 
 def choose(port, name, part):
     file = port.folder / "VIDEOTEK" / name
+    file.parent.mkdir(exist_ok=True)
     port.answer(**{"with": [{"file": str(file), "filter": part}]})
     return file
 
@@ -348,7 +351,6 @@ def test_a_quality_that_is_no_number_is_ninety(wall):
 def test_a_quality_beyond_a_hundred_is_an_error_and_leaves_the_old_file(wall):
     in_full_size(wall)
     file = choose(wall, "essai.jpg", 1)
-    file.parent.mkdir(exist_ok=True)
     file.write_bytes(b"old")
     wall.click("Form19.Command5")
     wall.set("FrmCpr.TxtQuality", text="500")
@@ -409,11 +411,8 @@ def test_cancel_ends_each_dialog_quietly(wall):
 
 
 def test_replacing_a_jpeg_keeps_its_times(wall):
-    import os
-
     in_full_size(wall)
     file = choose(wall, "ancien.jpg", 1)
-    file.parent.mkdir(exist_ok=True)
     file.write_bytes(b"old")
     os.utime(file, (1016200000, 1016203600))
     wall.click("Form19.Command5")

@@ -59,7 +59,9 @@ class Covered final : public QObject {
 public:
     Covered(QWidget* panel, QWidget* cover) : QObject(cover), panel_(panel) {
         cover->installEventFilter(this);
-        panel_->setVisible(cover->isHidden());
+        if (!cover->isHidden()) {
+            panel_->hide();
+        }
     }
 
 protected:
