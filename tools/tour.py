@@ -7,6 +7,7 @@ import sys
 import tempfile
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests" / "e2e"))
+from bitmaps import scan  # noqa: E402
 from port import PROGRAM, Port  # noqa: E402
 
 
@@ -30,6 +31,7 @@ class Tour:
         self.help()
         self.upkeep()
         self.responses()
+        self.album()
         self.dossier()
 
     def about(self):
@@ -57,6 +59,26 @@ class Tour:
         self.port.dblclick("Form9.List1", row=2)
         self.picture("Form9", "reponses")
         self.port.click("Form9.CmdQuitter")
+
+    def album(self):
+        patients = [("ROSSIGNOL", "Isabelle"), ("MARTINEAU", "Christelle"), ("LEFÈVRE", "Anne-Sophie")]
+        for i in range(1, 18):
+            path = scan(pathlib.Path(self.folder) / "VIDEOTEK" / f"cliche-{i:02}.bmp", i)
+            surname, first_name = patients[i % len(patients)]
+            row = {"Nom": surname, "Prenom": first_name, "DATEXAM": f"{i:02}/03/2002", "NOMFICH": path.rsplit("/")[-1],
+                   "NOMPATH": path, "Typexam": "1", "DIAGNO": "Normal", "CRIT1": "Face", "CRIT2": "Profil",
+                   "CRIT3": "Courrier"}
+            self.port.insert(table="ECHOS", row=row)
+        self.port.click("Form1.Command6")
+        self.port.click("Form20.Command1")
+        self.port.click("Form20.CmdAffiche")
+        self.picture("Form20", "album")
+        for row in range(5):
+            self.port.click("Form20.ListNom", row=row)
+            self.port.click("Form20.CmdImpr")
+        self.port.type("Form20.TxtImp", text="Profils du mois de mars")
+        self.picture("Form20", "album-feuille")
+        self.port.close(form="Form20")
 
     def dossier(self):
         self.port.click("Form1.Command1")

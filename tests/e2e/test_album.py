@@ -1,23 +1,15 @@
 """Classing pictures, finding them again, and printing them on a sheet."""
 
-import struct
+import subprocess
 
+import pictures
 import pytest
+from bitmaps import plain
 
 NOT_CLASSED = "Erreur de manipulation, Fichier dèjà saisi ou sans nom!"
 NOTHING_FOUND = "Pas de cliché trouvé"
 LOST = "Ce cliché a été déclassé, Voulez supprimer ce classement ?"
 HUES = [(200, 30, 30), (30, 200, 30), (30, 30, 200), (200, 200, 30), (30, 200, 200), (200, 30, 200), (90, 90, 90)]
-
-
-def bitmap(path, hue=(200, 30, 30), width=64, height=48):
-    """Writes a 24-bit bitmap of one colour."""
-    row = bytes(reversed(hue)) * width
-    body = (row + b"\0" * (-len(row) % 4)) * height
-    head = struct.pack("<2sIHHI", b"BM", 54 + len(body), 0, 0, 54)
-    path.parent.mkdir(exist_ok=True)
-    path.write_bytes(head + struct.pack("<IiiHHIIiiII", 40, width, height, 1, 24, 0, len(body), 0, 0, 0, 0) + body)
-    return str(path)
 
 
 @pytest.fixture
@@ -35,7 +27,7 @@ def album(practice):
 def class_records(port, count):
     """So many pictures, each with a file of its own and a value in every field."""
     for i in range(1, count + 1):
-        path = bitmap(port.folder / "VIDEOTEK" / f"p{i}.bmp", HUES[i % len(HUES)])
+        path = plain(port.folder / "VIDEOTEK" / f"p{i}.bmp", HUES[i % len(HUES)])
         port.insert(
             table="ECHOS",
             row={
@@ -65,7 +57,7 @@ def found(port):
 
 
 def test_a_file_is_classed_with_all_its_values(album):
-    path = bitmap(album.folder / "kyste.bmp")
+    path = plain(album.folder / "kyste.bmp")
     open_file(album, path)
     assert [box["kind"] for box in album.boxes] == ["open"]
     assert album.boxes[0]["filter"] == "Images (*.BMP;*.JPG;*.ICO)|*.BMP;*.JPG;*.ICO"
@@ -94,7 +86,7 @@ def test_a_file_is_classed_with_all_its_values(album):
 
 
 def test_the_same_file_is_not_classed_twice(album):
-    path = bitmap(album.folder / "kyste.bmp")
+    path = plain(album.folder / "kyste.bmp")
     for _ in range(2):
         open_file(album, path)
         album.click("Form20.CmdAjouter")
@@ -104,7 +96,7 @@ def test_the_same_file_is_not_classed_twice(album):
 
 def test_a_picture_is_found_by_each_field(album):
     class_records(album, 1)
-    path = bitmap(album.folder / "kyste.bmp")
+    path = plain(album.folder / "kyste.bmp")
     open_file(album, path)
     values = {"TxtNom": "D'ALMEIDA", "TxtDate": "12/03/2001", "CmbDiagno": "Kyste", "CmbCrit1": "Ovaire",
               "CmbCrit2": "Axiale", "CmbCrit3": "À revoir"}
@@ -243,7 +235,9 @@ def sheet(port):
     return [port.get(f"Form20.ImgImp({i})")["picture"] is not None for i in range(1, 7)]
 
 
-def test_six_pictures_fill_a_sheet(album):
+def test_six_pictures_are_printed_on_a_sheet(album, tmp_path):
+    pdf = tmp_path / "sheet.pdf"
+    album.printer(file=str(pdf))
     class_records(album, 6)
     album.click("Form20.Command1")
     put_on_sheet(album, 6)
@@ -252,6 +246,16 @@ def test_six_pictures_fill_a_sheet(album):
     place = album.get("Form20.ImgImp(6)")
     assert [place[k] for k in ["left", "top", "width", "height"]] == [1800, 3120, 1455, 1095]
     assert not album.get("Form20.CmdOuvrir")["onscreen"]
+    album.type("Form20.TxtImp", text="Profil du fœtus")
+    album.click("Form20.CmdImp")
+    assert album.boxes == []
+    printed = subprocess.run(["pdftotext", str(pdf), "-"], capture_output=True, text=True, check=True).stdout
+    assert "MARTIN Anne" in printed
+    assert "02/05/2002" in printed
+    assert "MORVALT" in printed
+    images = subprocess.run(["pdfimages", "-list", str(pdf)], capture_output=True, text=True, check=True).stdout
+    assert [line.split()[3:5] for line in images.splitlines()[2:]] == [["64", "48"]] * 6
+    assert sheet(album) == [True] * 6
 
 
 def test_the_seventh_picture_throws_the_sheet_away(album):
@@ -282,3 +286,35 @@ def test_a_viewing_window_fills_the_search(practice):
     practice.click("Form4.Command5")
     practice.click("Form18.Command1")
     assert [practice.text("Form20." + f) for f in fields] == ["DUPONT", "03/04/2002", "5"]
+
+
+def test_a_capture_is_classed_and_found(practice):
+    practice.insert(table="FICHEPATIENT", row={"Numint": 2, "Nom": "DUPONT", "Prenom": "Marie"})
+    practice.start()
+    practice.click("Form1.Command1")
+    practice.set("Form4.Text1", text="DUPONT")
+    practice.click("Form4.Cmd1Ter")
+    practice.click("Form5.CmdPhotos")
+    practice.camera(image=pictures.plain(practice.folder / "source.png", (40, 60, 200), 360, 288))
+    practice.click("Form19.Command4")
+    practice.dblclick("Form19.Image2(1)")
+    file = practice.folder / "VIDEOTEK" / "face.bmp"
+    file.parent.mkdir(exist_ok=True)
+    practice.answer(**{"with": [{"file": str(file), "filter": 2}, "yes"]})
+    practice.click("Form19.Command5")
+    assert practice.get("Form20.ImgCharge")["picture"] == {"width": 360, "height": 288}
+    for box in ["CmbDiagno", "CmbCrit1", "CmbCrit2", "CmbCrit3"]:
+        practice.set("Form20." + box, text="Face")
+    practice.click("Form20.Option1")
+    practice.click("Form20.CmdAjouter")
+    assert practice.boxes == []
+    [row] = stored(practice)
+    assert [row[k] for k in ["Nom", "Prenom", "DATEXAM", "NOMFICH", "NOMPATH", "Typexam", "NUMECHO"]] == [
+        "DUPONT", "Marie", "05/04/2002", "face.bmp", str(file), "1", None,
+    ]
+    practice.set("Form20.TxtRechNom", text="dupont")
+    practice.click("Form20.Command1")
+    practice.click("Form20.ListNom", row=0)
+    assert practice.boxes == []
+    assert practice.get("Form20.Image2")["picture"] == {"width": 360, "height": 288}
+    assert practice.text("Form20.TxtNumEcho") == ""
