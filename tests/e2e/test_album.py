@@ -269,23 +269,26 @@ def test_the_seventh_picture_throws_the_sheet_away(album):
     assert album.get("Form20.TxtNom")["onscreen"]
 
 
-def test_a_viewing_window_fills_the_search(practice):
+@pytest.mark.parametrize(
+    "table, kind, last, photos",
+    [
+        ("1TER", "1", "Form4.HlbCptDer", "Form6.Command3"),
+        ("1TER", "2", "Form4.HlbCptDer", "Form10.Command2"),
+        ("GYNECO", None, "Form4.Command5", "Form18.Command1"),
+    ],
+)
+def test_each_viewing_window_fills_the_search(practice, table, kind, last, photos):
     practice.insert(table="FICHEPATIENT", row={"Numint": 2, "Nom": "DUPONT", "Prenom": "Marie"})
-    practice.insert(table="1TER", row={"Numero": 2, "NUMECHO": 3, "TYPECHO": "1", "DATEXAM": "02/04/2002"})
-    practice.insert(table="GYNECO", row={"Numero": 2, "NUMECHO": 5, "DATEXAM": "03/04/2002"})
+    row = {"Numero": 2, "NUMECHO": 3, "DATEXAM": "02/04/2002"} | ({"TYPECHO": kind} if kind else {})
+    practice.insert(table=table, row=row)
     practice.start()
     practice.click("Form1.Command1")
     practice.set("Form4.Text1", text="DUPONT")
-    practice.click("Form4.HlbCptDer")
-    practice.click("Form6.Command3")
+    practice.click(last)
+    practice.click(photos)
     fields = ["TxtRechNom", "TxtRechDate", "TxtRechNumEcho"]
     assert [practice.text("Form20." + f) for f in fields] == ["DUPONT", "02/04/2002", "3"]
     assert practice.items("Form20.ListNom") == []
-    practice.click("Form6.CmdQuitter")
-    practice.set("Form4.Text1", text="DUPONT")
-    practice.click("Form4.Command5")
-    practice.click("Form18.Command1")
-    assert [practice.text("Form20." + f) for f in fields] == ["DUPONT", "03/04/2002", "5"]
 
 
 def test_a_capture_is_classed_and_found(practice):
