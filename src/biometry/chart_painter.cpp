@@ -75,31 +75,53 @@ QPen solid(const QColor& colour, double width) {
     return QPen(colour, width, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
 }
 
+/// Lines along the axes, one device pixel wide: as rectangles they take a twentieth of the time.
+class Grid {
+public:
+    Grid(QPainter& painter, Chart chart)
+        : painter_(painter),
+          chart_(chart),
+          area_(plot(chart)),
+          thinX_(1 / painter.transform().m11()),
+          thinY_(1 / painter.transform().m22()) {}
+
+    void across(int millimetres, const QColor& colour) {
+        const double y = spot(chart_, 0, millimetres).y();
+        painter_.fillRect(QRectF(area_.left(), y - thinY_ / 2, area_.width(), thinY_), colour);
+    }
+    void upright(int week, const QColor& colour) {
+        const double x = spot(chart_, week, 0).x();
+        painter_.fillRect(QRectF(x - thinX_ / 2, area_.top(), thinX_, area_.height()), colour);
+    }
+
+private:
+    QPainter& painter_;
+    Chart chart_;
+    QRectF area_;
+    double thinX_;
+    double thinY_;
+};
+
+// The strong lines go over the fine ones.
 void drawGrid(QPainter& painter, Chart chart, const Ink& ink) {
+    Grid grid(painter, chart);
+    for (const bool strong : {false, true}) {
+        const QColor& colour = strong ? ink.grid : ink.fineGrid;
+        for (int mm = 0; mm <= geometry(chart).valueSpan; mm += fineStep(chart)) {
+            if ((mm % numberedStep(chart) == 0) == strong) {
+                grid.across(mm, colour);
+            }
+        }
+        for (int week = firstGridWeek(chart); week <= styleOf(chart).lastWeek; ++week) {
+            if ((week % 5 == 0) == strong) {
+                grid.upright(week, colour);
+            }
+        }
+    }
+    constexpr double kAxis = 12;
     const QRectF area = plot(chart);
-    QVector<QLineF> fine;
-    QVector<QLineF> strong;
-    const auto across = [&](int millimetres) {
-        const double y = spot(chart, 0, millimetres).y();
-        return QLineF(area.left(), y, area.right(), y);
-    };
-    const auto upright = [&](int week) {
-        const double x = spot(chart, week, 0).x();
-        return QLineF(x, area.top(), x, area.bottom());
-    };
-    for (int mm = 0; mm <= geometry(chart).valueSpan; mm += fineStep(chart)) {
-        (mm % numberedStep(chart) == 0 ? strong : fine).append(across(mm));
-    }
-    for (int week = firstGridWeek(chart); week <= styleOf(chart).lastWeek; ++week) {
-        (week % 5 == 0 ? strong : fine).append(upright(week));
-    }
-    painter.setPen(QPen(ink.fineGrid, 0));
-    painter.drawLines(fine);
-    painter.setPen(QPen(ink.grid, 0));
-    painter.drawLines(strong);
-    painter.setPen(solid(ink.text, 12));
-    painter.drawLine(QLineF(area.bottomLeft(), area.bottomRight()));
-    painter.drawLine(QLineF(area.bottomLeft(), area.topLeft()));
+    painter.fillRect(QRectF(area.left() - kAxis / 2, area.bottom() - kAxis / 2, area.width(), kAxis), ink.text);
+    painter.fillRect(QRectF(area.left() - kAxis / 2, area.top(), kAxis, area.height()), ink.text);
 }
 
 void drawWeeks(QPainter& painter, Chart chart, const Ink& ink) {

@@ -16,6 +16,7 @@ constexpr int kTextSize = 200;
 constexpr int kLine = 280;
 constexpr int kLeft = 138;
 constexpr int kColumn = 3950;
+constexpr int kValues = 3100;  // from the left of a column, behind the longest name
 constexpr int kTablesTop = 9400;
 
 /// Draws texts line under line, in columns, in twips.
@@ -66,7 +67,7 @@ void drawMeasures(QPainter& painter, const Page& page) {
         const Measure measure = kPageOrder[i];
         const auto place = static_cast<int>(i);
         Lines lines(painter, kLeft + kColumn * (place / kPerColumn), 1500 + 2 * kLine * (place % kPerColumn));
-        lines.cells({{0, measureName(measure)}, {2600, millimetres(page.measure(measure))}}, true);
+        lines.cells({{0, measureName(measure)}, {kValues, millimetres(page.measure(measure))}}, true);
         lines.write(page.percentile(measure));
     }
 }
@@ -97,7 +98,7 @@ void drawRetried(Lines& lines, const Retried& retried) {
         const std::size_t i = indexOf(measure);
         const QString median = i < kClassifiedCount ? millimetres(retried.medians[i]) : QString();
         lines.cells({{0, measureName(measure)},
-                     {2600, millimetres(retried.measures[i])},
+                     {kValues, millimetres(retried.measures[i])},
                      {kColumn, median},
                      {kColumn + 1000, retried.percentiles[i]}});
     }

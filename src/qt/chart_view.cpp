@@ -2,6 +2,7 @@
 
 #include <QHelpEvent>
 #include <QLabel>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QToolTip>
 #include <algorithm>
@@ -53,6 +54,10 @@ void ChartView::addChart(biometry::Chart chart, forms::Image& picture) {
     QWidget* twin = bare(biometry::measureName(biometry::geometry(chart).measure));
     charts_.push_back({chart, &picture, twin});
     window_.bind(picture, twin, [](forms::Aspect, int) {});
+    window_.alsoBind(picture, [this](forms::Aspect, int) {
+        drawn_ = {};
+        update();
+    });
 }
 
 void ChartView::addMarker(forms::Marker& marker, const QString& name) {
@@ -120,29 +125,55 @@ void ChartView::placeAll() {
 }
 
 void ChartView::resizeEvent(QResizeEvent*) {
+    drawn_ = {};
     placeAll();
 }
 
-void ChartView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+void ChartView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange) {
+        drawn_ = {};
+    }
+    QWidget::changeEvent(event);
+}
+
+// A marker that moves leaves the charts as they are.
+void ChartView::drawCharts() {
+    drawn_ = QPixmap(size() * devicePixelRatioF());
+    drawn_.setDevicePixelRatio(devicePixelRatioF());
+    drawn_.fill(Qt::transparent);
+    QPainter painter(&drawn_);
     painter.setTransform(toPixels(), true);
-    const biometry::Ink ink = screenInk(palette());
     for (const ShownChart& shown : charts_) {
         if (shown.picture->visible()) {
-            paintChart(painter, shown.chart, ink);
+            paintChart(painter, shown.chart, screenInk(palette()));
         }
     }
+}
+
+void ChartView::drawMarkers(QPainter& painter) const {
+    const QColor edge = palette().color(QPalette::Base);
     for (const forms::Marker* marker : markers_) {
         if (!marker->visible() || !marker->spot()) {
             continue;
         }
         const biometry::Point at{marker->spot()->left, marker->spot()->top};
         if (marker->color()) {
-            paintMarker(painter, at, QColor::fromRgb(*marker->color()), ink.ground);
+            paintMarker(painter, at, QColor::fromRgb(*marker->color()), edge);
         } else {
             paintCross(painter, at, QColor(theme::isDark() ? 0xff5a4f : 0xd00000));
         }
     }
+}
+
+void ChartView::paintEvent(QPaintEvent* event) {
+    if (drawn_.isNull() || drawn_.devicePixelRatio() != devicePixelRatioF()) {
+        drawCharts();
+    }
+    QPainter painter(this);
+    const QRectF part = event->rect();
+    painter.drawPixmap(part, drawn_, QRectF(part.topLeft() * devicePixelRatioF(), part.size() * devicePixelRatioF()));
+    painter.setTransform(toPixels(), true);
+    drawMarkers(painter);
 }
 
 QString ChartView::tipAt(QPointF pixel) const {

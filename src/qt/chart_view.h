@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPixmap>
 #include <QWidget>
 #include <functional>
 #include <vector>
@@ -37,6 +38,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     struct ShownChart {
@@ -55,12 +57,16 @@ private:
     void placeAll();
     void place(const Follower& follower) const;
     QWidget* bare(const QString& name);
+    void drawCharts();
+    void drawMarkers(QPainter& painter) const;
 
     FormWindow& window_;
     QRectF part_;
     std::vector<ShownChart> charts_;
     std::vector<const forms::Marker*> markers_;
     std::vector<Follower> followers_;
+    /// The charts without their markers, as last drawn; null when something else is to be seen.
+    QPixmap drawn_;
 };
 
 /// The colours of a chart on screen.
