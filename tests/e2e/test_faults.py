@@ -74,7 +74,7 @@ WINDOWS = [
     Window("Form7", "ECHO.MDB", "1TER", "Txt1Ter(26)", "CmdModifs", clicks("Form4.HlbCptDer", "Form6.CmdModifs")),
     Window("Form8", "ECHO.MDB", "1TER", "Txt2T(32)", "CmdEnregis", clicks("Form4.Cmd2Ter")),
     Window("Form11", "ECHO.MDB", "1TER", "Txt2T(32)", "CmdModifs",
-           clicks("Form4.HlbCptDer", "Form10.CmdModifs", surname="GUÉRIN", first_name="")),
+           clicks("Form4.HlbCptDer", "Form10.CmdModifs", surname="GUÉRIN", first_name="SOPHIE")),
     Window("Form9", "ECHO.MDB", "OPTIONS", "Text1", "CmdAjoute", phrase),
     Window("Form16", "ECHO.MDB", "GYNECO", "TxtGyneco(26)", "CmdEnregis",
            clicks("Form4.CmdGyneco", surname="ROSSIGNOL", first_name="")),

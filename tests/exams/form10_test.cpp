@@ -448,6 +448,58 @@ TEST_F(LaterViewingWindow, LeadsToItsBiometryAndReport) {
     EXPECT_EQ(unknown_, QStringList({"Form12", "Form12"}));
 }
 
+TEST_F(LaterViewingWindow, HandsTheExamToTheAlbum) {
+    desk().add("Form20", [this] { return std::make_unique<PictureWindow>(desk(), "Form20"); });
+    addLater(2, 4, "10/01/2002");
+    press(viewLastLater().Command2);
+    const auto& album = static_cast<PictureWindow&>(desk().at("Form20"));
+    EXPECT_TRUE(album.shown());
+    EXPECT_EQ(album.TxtRechNom.text(), "DUPONT");
+    EXPECT_EQ(album.TxtRechDate.text(), "10/01/2002");
+    EXPECT_EQ(album.TxtRechNumEcho.text(), "4");
+}
+
+TEST_F(LaterViewingWindow, SteppingClosesItsBiometryAndCurvesAndACorrectionDoesNot) {
+    mixedDossier();
+    const std::array names{"Form12", "Form13"};
+    for (const char* name : names) {
+        addBare(name);
+    }
+    const auto open = [&] {
+        viewLastLater();
+        for (const char* name : names) {
+            desk().act([&] { desk().show(name); });
+        }
+    };
+    const auto gone = [&] { return !loaded("Form12") && !loaded("Form13"); };
+    for (forms::Button ObstetricView::*step :
+         {&ObstetricView::CmdPrem, &ObstetricView::CmdRec, &ObstetricView::CmdAv, &ObstetricView::CmdDer}) {
+        open();
+        press(laterView().*step);
+        EXPECT_TRUE(gone());
+    }
+    open();
+    press(laterView().CmdModifs);
+    world_.boxes.answers = {true};
+    press(desk().at<Form11>().CmdModifs);
+    EXPECT_TRUE(loaded("Form12") && loaded("Form13"));
+    press(laterView().CmdQuitter);
+    EXPECT_TRUE(gone());
+}
+
+TEST_F(LaterViewingWindow, AWritingWindowClosesTheBiometryAsItGoes) {
+    mixedDossier();
+    addBare("Form12");
+    addBare("Form13");
+    viewLastLater();
+    press(laterView().Ter2);
+    desk().act([&] { desk().show("Form12"); });
+    desk().act([&] { desk().show("Form13"); });
+    press(desk().at<Form8>().CmdQuitter);
+    EXPECT_FALSE(loaded("Form12") || loaded("Form13"));
+    EXPECT_TRUE(shown("Form10"));
+}
+
 TEST_F(LaterViewingWindow, OpensTheHelpBesideTheProgram) {
     addLater(2, 1, "10/01/2002");
     press(viewLastLater().Aide);

@@ -810,9 +810,26 @@ TEST_F(LaterWritingWindow, NumbersLeaveGapsAndComeBackAtTheEnd) {
     EXPECT_EQ(newLater().sheet.TxtNumEcho.text(), "2");
 }
 
-TEST_F(LaterWritingWindow, LeadsToTheCaptureOfPictures) {
-    press(newLater().CmdPhotos);
-    EXPECT_EQ(unknown_, QStringList({"Form19"}));
+TEST_F(LaterWritingWindow, HandsItsNumberToTheCaptureOfPictures) {
+    desk().add("Form19", [this] { return std::make_unique<PictureWindow>(desk(), "Form19"); });
+    Form8& form = newLater();
+    write(form.sheet.TxtNumEcho, "7");
+    press(form.CmdPhotos);
+    EXPECT_TRUE(shown("Form19"));
+    EXPECT_EQ(static_cast<PictureWindow&>(desk().at("Form19")).TxtNumEcho.text(), "7");
+}
+
+TEST_F(LaterWritingWindow, AnOpeningThatFindsNoBaseShowsNothingOfTheLastExam) {
+    addLater(3, 1, "10/01/2002");
+    Form8& form = newLater();
+    write(form.sheet.Txt2T(32), "d'une autre");
+    dossierOf("MARTIN");
+    state_.PathEcho = world_.folder.filePath("absent/ECHO.MDB");
+    press(desk().at<dossier::Form4>().Cmd2Ter);
+    EXPECT_EQ(world_.boxes.reported.size(), 1);
+    EXPECT_EQ(form.sheet.LblNom.text(), "MARTIN");
+    EXPECT_EQ(form.sheet.Txt2T(32).text(), "");
+    EXPECT_EQ(form.sheet.TxtNumEcho.text(), "");
 }
 
 }  // namespace
