@@ -16,6 +16,10 @@ namespace {
 
 constexpr int kMiddleLightness = 128;
 
+bool seen(const forms::Control& control) {
+    return control.visible() && !control.covered();
+}
+
 }  // namespace
 
 FormWindow::FormWindow(forms::Form& form) : form_(form) {
@@ -33,8 +37,8 @@ void FormWindow::bind(forms::Control& control, QWidget* widget, std::function<vo
     widget->installEventFilter(this);
     widget->setEnabled(control.enabled());
     // A widget that stands nowhere yet and is shown would come up as a window of its own.
-    if (!control.visible() || !widget->isWindow()) {
-        widget->setVisible(control.visible());
+    if (!seen(control) || !widget->isWindow()) {
+        widget->setVisible(seen(control));
     }
     if (const auto* text = dynamic_cast<const forms::TextControl*>(&control);
         text && (text->color() || text->back() || text->points())) {
@@ -146,7 +150,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FormWindow::syncState(forms::Control& control, QWidget* widget) {
-    widget->setVisible(control.visible() && !control.covered());
+    widget->setVisible(seen(control));
     widget->setEnabled(control.enabled());
 }
 

@@ -222,7 +222,7 @@ TEST_F(LaterViewingWindow, TheTwoStylesExcludeEachOtherAndTheIntroductionFlips) 
 
 TEST_F(LaterViewingWindow, TheNumberOfFetusesSetsTheButtons) {
     int number = 0;
-    for (const char* count : {"1", "2", "3", "0", "", "deux"}) {
+    for (const char* count : {"1", "2", "3", "4", "0", "", "deux"}) {
         addLater(2, ++number, "10/01/2002", {{"NBRE", count}});
     }
     Form10& form = viewLastLater();
@@ -230,6 +230,8 @@ TEST_F(LaterViewingWindow, TheNumberOfFetusesSetsTheButtons) {
     EXPECT_FALSE(form.Frame5.visible());
     press(form.CmdAv);
     EXPECT_TRUE(form.Frame5.visible() && form.CmdJ1.visible() && form.CmdJ2.visible() && !form.CmdJ3.visible());
+    press(form.CmdAv);
+    EXPECT_TRUE(form.Frame5.visible() && form.CmdJ3.visible());
     press(form.CmdAv);
     EXPECT_TRUE(form.Frame5.visible() && form.CmdJ3.visible());
     for (int i = 0; i < 3; ++i) {

@@ -227,6 +227,16 @@ TEST_F(LaterCorrectionWindow, FourFetusesAreRefusedAndThePanelEndsHidden) {
     EXPECT_FALSE(form.sheet.Frame5.visible());
 }
 
+TEST_F(LaterCorrectionWindow, FourStoredFetusesAreRefusedAsTheExamIsLoaded) {
+    addLater(3, 1, "05/04/2002", {{"NBRE", "4"}, {"CONCLU1", "fin"}});
+    viewLastLater("MARTIN");
+    const Form11& form = correctLater();
+    EXPECT_EQ(world_.boxes.said, QStringList({"Désolé le logiciel ne traite pas plus de 3 foetus"}));
+    EXPECT_EQ(form.sheet.TxtNbrE.text(), "");
+    EXPECT_FALSE(form.sheet.Frame5.visible());
+    EXPECT_EQ(form.sheet.Txt2T(32).text(), "fin");
+}
+
 TEST_F(LaterCorrectionWindow, TheNumberHoldsOneDigitAndHidesThePanelWhileItIsEmpty) {
     Form11& form = openOnSecond();
     type(form.sheet.TxtNbrE, u'1');
@@ -475,6 +485,23 @@ TEST_F(LaterCorrectionWindow, AnExamDeletedMeanwhileIsReportedAndNoOtherIsWritte
     EXPECT_EQ(world_.boxes.reported, QList<int>({3167}));
     EXPECT_EQ(stored(2, "CONCLU1"), QStringList({"", ""}));
     EXPECT_EQ(stored(2, "NUMECHO"), QStringList({"1", "3"}));
+}
+
+TEST_F(LaterCorrectionWindow, AnExamDeletedBeforeItsCorrectionIsReportedAndNoWindowComesUp) {
+    viewLastLater();
+    query("SELECT*FROM 1TER WHERE NUMERO=2And NUMECHO=3").remove();
+    press(laterView().CmdModifs);
+    EXPECT_EQ(world_.boxes.reported, QList<int>({3021}));
+    EXPECT_FALSE(loaded("Form11"));
+    EXPECT_TRUE(shown("Form10"));
+}
+
+TEST_F(LaterCorrectionWindow, ATypedKindOfTheViewIsNoMatterOfTheCorrection) {
+    openOnSecond();
+    laterView().TxtTypecho.setText("0");
+    save();
+    EXPECT_EQ(stored(2, "TYPECHO"), QStringList({"0", "3", "0"}));
+    EXPECT_EQ(laterView().TxtTypecho.text(), "3");
 }
 
 TEST_F(LaterCorrectionWindow, WhatIsStillInTheFreeEntryIsSaved) {

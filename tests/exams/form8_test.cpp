@@ -1,4 +1,5 @@
 #include "exams/form8.h"
+#include "pictures/form19.h"
 
 #include <QFile>
 
@@ -811,12 +812,12 @@ TEST_F(LaterWritingWindow, NumbersLeaveGapsAndComeBackAtTheEnd) {
 }
 
 TEST_F(LaterWritingWindow, HandsItsNumberToTheCaptureOfPictures) {
-    desk().add("Form19", [this] { return std::make_unique<PictureWindow>(desk(), "Form19"); });
+    desk().add("Form19", [this] { return std::make_unique<pictures::Form19>(world_.around); });
     Form8& form = newLater();
     write(form.sheet.TxtNumEcho, "7");
     press(form.CmdPhotos);
     EXPECT_TRUE(shown("Form19"));
-    EXPECT_EQ(static_cast<PictureWindow&>(desk().at("Form19")).TxtNumEcho.text(), "7");
+    EXPECT_EQ(desk().at<pictures::Form19>().TxtNumEcho.text(), "7");
 }
 
 TEST_F(LaterWritingWindow, AnOpeningThatFindsNoBaseShowsNothingOfTheLastExam) {

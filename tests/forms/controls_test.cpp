@@ -214,5 +214,64 @@ TEST(KeyPress, KeepsReplacesOrSwallowsItsCharacter) {
     EXPECT_TRUE(key.swallowed());
 }
 
+/// Three panels over each other, each with a field.
+class Panels final : public Form {
+public:
+    explicit Panels(Desk& desk) : Form(desk, QStringLiteral("Panels"), QStringLiteral("Essai")) {
+        Lower.holds(InLower);
+        Middle.holds(InMiddle);
+        Upper.holds(InUpper);
+        Middle.layOver(Lower);
+        Upper.layOver(Lower);
+        Upper.layOver(Middle);
+    }
+    Frame Lower{*this, "Lower"};
+    Frame Middle{*this, "Middle"};
+    Frame Upper{*this, "Upper"};
+    TextBox InLower{*this, "InLower"};
+    TextBox InMiddle{*this, "InMiddle"};
+    TextBox InUpper{*this, "InUpper"};
+};
+
+class OverlaidPanels : public ::testing::Test {
+protected:
+    OverlaidPanels() {
+        desk_.add("Panels", [this] { return std::make_unique<Panels>(desk_); });
+        desk_.show("Panels");
+        form_ = static_cast<Panels*>(&desk_.at("Panels"));
+    }
+    Desk desk_;
+    Panels* form_ = nullptr;
+};
+
+TEST_F(OverlaidPanels, OfTheVisibleOnesTheTopmostAloneCanBeReached) {
+    EXPECT_TRUE(form_->InUpper.reachable());
+    EXPECT_TRUE(form_->Lower.covered() && form_->Middle.covered() && !form_->Upper.covered());
+    form_->Upper.hide();
+    EXPECT_TRUE(form_->InMiddle.reachable());
+    EXPECT_FALSE(form_->InUpper.reachable() || form_->InLower.reachable());
+    form_->Middle.hide();
+    EXPECT_TRUE(form_->InLower.reachable());
+    EXPECT_TRUE(form_->Lower.visible());
+}
+
+TEST_F(OverlaidPanels, AFieldOfACoveredOneTakesNoFocusAndOneThatIsCoveredLosesIt) {
+    form_->InMiddle.setFocus();
+    EXPECT_EQ(form_->focused(), nullptr);
+    form_->Upper.hide();
+    form_->InMiddle.setFocus();
+    EXPECT_EQ(form_->focused(), &form_->InMiddle);
+    form_->Upper.show();
+    EXPECT_EQ(form_->focused(), nullptr);
+}
+
+TEST_F(OverlaidPanels, TellTheirViewsWhenTheOneAboveComesOrGoes) {
+    int told = 0;
+    const Subscription watch = form_->Lower.observe([&](Aspect aspect, int) { told += aspect == Aspect::Visible; });
+    form_->Upper.hide();
+    form_->Upper.show();
+    EXPECT_EQ(told, 2);
+}
+
 }  // namespace
 }  // namespace forms

@@ -111,6 +111,34 @@ TEST_F(MenuTest, AColourBehindALabelKeepsItsTextReadable) {
     EXPECT_FALSE(label->autoFillBackground());
 }
 
+/// Two panels of which the second lies over the first.
+class Overlaid final : public forms::Form {
+public:
+    explicit Overlaid(forms::Desk& desk) : Form(desk, QStringLiteral("Panneaux"), QStringLiteral("Essai")) {
+        Upper.layOver(Lower);
+    }
+    forms::Frame Lower{*this, "Lower"};
+    forms::Frame Upper{*this, "Upper"};
+};
+
+TEST(OverlaidFrames, OnlyTheTopmostOfTheVisibleOnesIsSeen) {
+    forms::Desk desk;
+    Overlaid form(desk);
+    FormWindow window(form);
+    Binder bind(window);
+    auto* all = new QVBoxLayout(&window);
+    QWidget* lower = bind.section(form.Lower);
+    QWidget* upper = bind.section(form.Upper);
+    all->addWidget(lower);
+    all->addWidget(upper);
+    EXPECT_TRUE(lower->isHidden());
+    EXPECT_FALSE(upper->isHidden());
+    form.Upper.hide();
+    EXPECT_FALSE(lower->isHidden());
+    form.Upper.show();
+    EXPECT_TRUE(lower->isHidden());
+}
+
 class BinderTest : public ::testing::Test {
 protected:
     BinderTest() {
