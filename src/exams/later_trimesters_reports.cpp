@@ -27,8 +27,7 @@ biometry::Measures measuresOf(const Form10& view, int fetus) {
 
 // The page of the exam as it stands, whatever the biometry window showed before.
 reports::PercentileWords wordsOf(const Form10& view, const ExamLife& life) {
-    const biometry::Page page =
-        biometry::page(measuredExam(view, life.dossierWindow()), 0, life.around().clock.today());
+    const biometry::Page page = biometry::page(measuredExam(view), 0, life.around().clock.today());
     return {.LblCBip = page.percentile(Measure::Bip),
             .LblCCer = page.percentile(Measure::Cer),
             .LblCCc = page.percentile(Measure::Cc),
@@ -59,11 +58,11 @@ reports::Fetus fetusOnShow(const Form10& view, int which) {
 
 }  // namespace
 
-biometry::Exam measuredExam(const Form10& view, const dossier::Form4& head) {
-    return {.civility = head.LblCivilite.text(),
+biometry::Exam measuredExam(const Form10& view) {
+    return {.civility = {},
             .surname = view.LblNom.text(),
             .firstName = view.LblPrenom.text(),
-            .dossierNumber = head.NumLbl.text(),
+            .dossierNumber = {},
             .examNumber = view.LblNumEcho.text(),
             .start = view.LblDGUS.text(),
             .examDate = view.LblDatExam.text(),

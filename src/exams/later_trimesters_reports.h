@@ -7,8 +7,9 @@
 
 namespace exams {
 
-/// The exam that the viewing window shows, as its biometry is computed from it, with the patient of the dossier window.
-biometry::Exam measuredExam(const Form10& view, const dossier::Form4& head);
+/// The exam that the viewing window shows, as its biometry is computed from it, without what the dossier window alone
+/// knows of the patient.
+biometry::Exam measuredExam(const Form10& view);
 
 /// The exam that the viewing window shows, as its report tells it, with the head of the dossier window and the
 /// percentile words of its first fetus. Throws what `biometry::page` throws.

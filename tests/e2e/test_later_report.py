@@ -152,3 +152,14 @@ def test_a_corrected_report_is_printed(dossier, tmp_path):
     printed = subprocess.run(["pdftotext", "-layout", str(pdf), "-"], capture_output=True, text=True, check=True).stdout
     assert "Bi-Pariétal : 54 mm. (50 ème Percentile)." in printed
     assert "Ajout du médecin : œdème." in printed
+
+
+def test_a_biometry_window_on_screen_stays_as_it_is(dossier):
+    port = view(dossier)
+    port.click("Form10.CmdBiometrie")
+    assert port.text("Form12.LblCBip") == "50 ème Percentile"
+    port.set("Form10.TxtPied(0)", text="38")
+    port.click("Form10.Command1")
+    assert "Pied : 38 mm. (50 ème Percentile).\r\n" in report(port)
+    assert {"Form10", "Form12", "RicheT"} <= port.shown()
+    assert port.text("Form12.LblCPied") == ""
