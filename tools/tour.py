@@ -110,12 +110,29 @@ class Tour:
         self.port.type("Form5.Txt1Ter(15)", text="1")
         self.port.focus("Form5.Txt1Ter(7)")
         self.picture("Form5", "examen-redaction")
+        self.capture()
         self.port.click("Form5.CmdQuitter")
         self.port.click("Form4.HlbCptDer")
         self.picture("Form6", "examen")
         self.port.click("Form6.CmdModifs")
         self.picture("Form7", "examen-correction")
         self.port.click("Form7.CmdQuitter")
+
+    def capture(self):
+        for i in range(1, 8):
+            self.port.camera(image=scan(pathlib.Path(self.folder) / f"source-{i}.bmp", 3 * i))
+            self.port.click("Form5.CmdPhotos") if i == 1 else None
+            self.port.click("Form19.Command4")
+        for slot in (2, 5, 6):
+            self.port.click(f"Form19.Image2({slot})")
+        self.picture("Form19", "cliches")
+        self.port.dblclick("Form19.Image2(4)")
+        self.picture("Form19", "cliche-en-grand")
+        self.port.answer(**{"with": [{"file": str(pathlib.Path(self.folder) / "VIDEOTEK" / "cliche.jpg"), "filter": 1}]})
+        self.port.click("Form19.Command5")
+        self.picture("FrmCpr", "compression")
+        self.port.click("FrmCpr.Command2")
+        self.port.click("Form19.Qui")
 
     def report(self):
         self.port.printer(file=str(self.out / "compte-rendu.pdf"))
