@@ -5,7 +5,6 @@
 #include <QClipboard>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QTest>
 #include <algorithm>
@@ -286,11 +285,11 @@ QJsonObject Server::printer(const QJsonObject& request) {
 
 QJsonObject Server::camera(const QJsonObject& request) {
     const QString image = request.value(u"image").toString();
-    const bool none = request.value(u"none").toBool();
-    if (!none && !QFileInfo(image).isFile()) {
-        throw PortError{QStringLiteral("there is no picture %1").arg(image)};
+    if (request.value(u"none").toBool()) {
+        pictureSource_.unplug();
+    } else if (!pictureSource_.setImage(image)) {
+        throw PortError{QStringLiteral("%1 is no picture").arg(image)};
     }
-    pictureSource_.setImage(none ? QString() : image);
     return {};
 }
 

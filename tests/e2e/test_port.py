@@ -2,6 +2,7 @@
 
 import json
 import os
+import struct
 import subprocess
 
 import pytest
@@ -515,6 +516,25 @@ def test_a_report_is_told_in_runs_and_printed_into_the_file(viewing):
     viewing.click("RicheT.imprimer")
     assert viewing.boxes
     assert not page.exists()
+
+
+def test_a_camera_shows_a_picture_of_any_format_until_it_is_unplugged(menu):
+    bitmap = menu.folder / "a.bmp"
+    bitmap.write_bytes(
+        b"BM" + struct.pack("<IIIIiiHHIIiiII", 54 + 16, 0, 54, 40, 2, 2, 1, 24, 0, 16, 0, 0, 0, 0) + bytes(16)
+    )
+    menu.camera(image=str(bitmap))
+    menu.click("Form1.Command5")
+    menu.click("Form19.Command4")
+    assert menu.get("Form19.Image2(1)")["picture"] == {"width": 2, "height": 2}
+    menu.camera(none=True)
+    menu.click("Form19.Command4")
+    assert menu.boxes[0]["text"] == "Pas de connection à la carte video"
+    assert menu.get("Form19.ezVidCap1")["picture"] is None
+    (menu.folder / "text.png").write_text("no picture")
+    for file in ("text.png", "nowhere.png"):
+        with pytest.raises(PortError):
+            menu.camera(image=str(menu.folder / file))
 
 
 def test_a_picture_of_a_window_is_written(menu):
