@@ -198,6 +198,8 @@ Target Server::target(const QString& control) const {
 }
 
 QJsonObject Server::start() {
+    // The windows of the program that ends here run no closing steps.
+    pictureSource_.stop();
     stage_.reset();
     program_.reset();
     program_ = std::make_unique<shell::Program>(ports::Machine{

@@ -453,3 +453,12 @@ def test_closing_writes_the_heading(wall, close):
     assert wall.text("Form19.TxtEntete") == "Cabinet du Parc"
     assert picture(wall, "Form19.Image2(1)") is None
     assert list(wall.folder.glob("*.BMP"))
+
+
+def test_a_program_that_ends_with_the_window_open_leaves_the_camera(wall):
+    capture(wall, 1)
+    wall.start()
+    wall.click("Form1.Command5")
+    assert picture(wall, "Form19.Image2(1)") is None
+    capture(wall, 2)
+    assert picture(wall, "Form19.Image2(1)") == {"width": 360, "height": 288}
