@@ -450,6 +450,16 @@ TEST_F(Printing, WithNoNumberChosenThereIsNoSheet) {
     EXPECT_EQ(said(), QStringList());
 }
 
+TEST_F(Printing, TheHeadingNamesThePracticeAndThePatientTheFootHasItsPlace) {
+    const Form19& form = open();
+    EXPECT_EQ(form.ENTETE(), std::vector<SheetLine>({{"", 10, false},
+                                                     {"Cabinet du Parc", 20, true},
+                                                     {"", 20, true},
+                                                     {"Mme DUPONT Marie", 20, true},
+                                                     {"05/04/2002", 20, false},
+                                                     {"MORVALT" + QString(210, u' ') + "Pelorine", 20, false, 275.0}}));
+}
+
 class Closing : public PictureWindows {};
 
 TEST_F(Closing, WritesTheHeadingInQuotesInThePlaceOfTheOldOne) {
