@@ -36,6 +36,8 @@ public:
 private:
     static constexpr QSize kWhole{-1, -1};
     QSize sizeOf(QSize wanted) const;
+    /// Holds a bitmap of this size with whatever its memory holds.
+    bool hold(QSize size);
 
     QImage bitmap_;
 };

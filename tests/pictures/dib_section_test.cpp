@@ -54,6 +54,25 @@ TEST(DibSection, APictureLiesInItsRowsAsBlueGreenRed) {
     EXPECT_EQ(QByteArray(reinterpret_cast<const char*>(last), 3), QByteArray("\x1e\x14\x0a", 3));
 }
 
+TEST(DibSection, EachPixelOfARowKeepsItsColourWhateverTheWidth) {
+    for (int width = 1; width <= 13; ++width) {
+        QImage picture(width, 3, QImage::Format_RGB32);
+        for (int y = 0; y < 3; ++y) {
+            for (int x = 0; x < width; ++x) {
+                picture.setPixel(x, y, qRgb(x * 7 + y, 255 - x, x * 19 % 256));
+            }
+        }
+        cDIBSection bitmap;
+        ASSERT_TRUE(bitmap.CreateFromPicture(picture));
+        for (int y = 0; y < 3; ++y) {
+            for (int x = 0; x < width; ++x) {
+                const uchar* at = bitmap.DIBSectionBitsPtr() + y * bitmap.BytesPerScanLine() + 3 * x;
+                EXPECT_EQ(qRgb(at[2], at[1], at[0]), picture.pixel(x, y)) << width << ": " << x << ", " << y;
+            }
+        }
+    }
+}
+
 TEST(DibSection, WhatShowsThroughAPictureIsWhite) {
     QImage icon(1, 1, QImage::Format_ARGB32);
     icon.fill(Qt::transparent);
