@@ -48,6 +48,7 @@ void Form5::wireButtons() {
 
 void Form5::unloading() {
     exams_.leaveWriting();
+    exams_.hideDossierSteps();
 }
 
 void Form5::AFFCIVILITES() {

@@ -68,6 +68,7 @@ void Form8::load() {
 
 void Form8::unloading() {
     exams_.keepMarks();
+    exams_.hideDossierSteps();
     exams_.leaveWriting();
 }
 

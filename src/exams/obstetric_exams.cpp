@@ -120,6 +120,9 @@ void ObstetricExams::setStepping(bool possible) {
 void ObstetricExams::leaveWriting() {
     closeBiometry();
     bringCursorBack();
+}
+
+void ObstetricExams::hideDossierSteps() {
     if (auto* window = life_.desk().peek<dossier::Form4>()) {
         window->Command3.hide();
         window->Command4.hide();

@@ -43,8 +43,10 @@ public:
 
     /// Hides or shows the buttons that step on the cursor as it stands, in both viewing windows.
     void setStepping(bool possible);
-    /// What a writing window does when it goes: the cursor comes back, and the dossier window can't step on it.
+    /// What a writing window does when it goes: biometry and curves go along, and the cursor comes back.
     void leaveWriting();
+    /// The dossier window can't step on a cursor that stands on exams.
+    void hideDossierSteps();
 
     /// Writes the marks of the windows that are loaded into the settings file beside the program.
     void keepMarks();

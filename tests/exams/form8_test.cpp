@@ -768,6 +768,17 @@ TEST_F(LaterWritingWindow, ItsUnloadingBringsTheCursorBackAndHidesTheDossiersSte
     EXPECT_EQ(laterView().LblNumEcho.text(), "2");
 }
 
+TEST_F(LaterWritingWindow, ItHidesTheDossiersStepsEvenWhereTheCursorCantComeBack) {
+    Form8& form = newLater();
+    const QString base = fakes::pathOf(world_, store::FileKind::Echo);
+    ASSERT_TRUE(QFile::rename(base, base + ".ailleurs"));
+    press(form.CmdQuitter);
+    EXPECT_EQ(world_.boxes.reported, QList<int>({3024}));
+    EXPECT_EQ(desk().peek("Form8"), nullptr);
+    EXPECT_FALSE(desk().at<dossier::Form4>().Command3.visible());
+    EXPECT_FALSE(desk().at<dossier::Form4>().Command4.visible());
+}
+
 TEST_F(LaterWritingWindow, ClosingTheViewTakesItAlong) {
     for (const bool keeps : {true, false}) {
         addLater(2, keeps ? 1 : 2, "10/01/2002");
