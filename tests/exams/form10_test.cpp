@@ -123,6 +123,34 @@ TEST_F(LaterViewingWindow, ItsFramesHaveTheirNumbers) {
     EXPECT_EQ(form.find(u"Frame5", 3), &form.Frame5);
 }
 
+TEST_F(LaterViewingWindow, ItsControlsHaveTheirCaptions) {
+    addLater(2, 1, "12/03/2002");
+    const std::vector<std::pair<const char*, const char*>> captions{{"CmdBiometrie", "&Biometrie"},
+                                                                    {"Command1", "&Cpt Rendu"},
+                                                                    {"Command2", "&Photos"},
+                                                                    {"Frame12", "Voir les autres Echos "},
+                                                                    {"CmdPrem", "1&er"},
+                                                                    {"CmdRec", "&<"},
+                                                                    {"CmdAv", "&>"},
+                                                                    {"CmdDer", "De&r"},
+                                                                    {"Ter1", "1 er Ter"},
+                                                                    {"Ter2", "2 - 3 ème Ter"},
+                                                                    {"CptrD", "Compte Rendu détaillé"},
+                                                                    {"CptrM", "Compte Rendu Minimum"},
+                                                                    {"Intro", "Avec Introduction"},
+                                                                    {"Frame5", "G Multiple"},
+                                                                    {"CmdJ1", "J1"},
+                                                                    {"CmdJ2", "J2"},
+                                                                    {"CmdJ3", "J3"}};
+    const Form10& form = viewLastLater();
+    for (const auto& [control, caption] : captions) {
+        EXPECT_EQ(form.find(QString(control))->text(), caption) << control;
+    }
+    for (const forms::Menu* entry : {&form.CptrD, &form.CptrM, &form.Intro}) {
+        EXPECT_EQ(entry->holder(), &form.TypeCptR);
+    }
+}
+
 TEST_F(LaterViewingWindow, ThePresentationTheFootAndTheNumberAloneCanBeOvertyped) {
     addLater(2, 1, "12/03/2002");
     const QStringList open{"TxtPied", "TxtPres", "TxtNbrE"};
@@ -341,6 +369,17 @@ TEST_F(LaterViewingWindow, ADeletionAsksTwice) {
     }
     EXPECT_EQ(world_.boxes.asked.first(), "Voulez vous vraiment SUPPRIMER cette Echographie ?");
     EXPECT_EQ(world_.boxes.asked.last(), "ATTENTION cette Echographie va être supprimée. CONTINUER ?");
+}
+
+TEST_F(LaterViewingWindow, WithoutAnOpenDossierADeletionAsksNothing) {
+    addLater(2, 1, "10/01/2002");
+    viewLastLater();
+    desk().at<dossier::Form4>().NomLbl.setText({});
+    world_.boxes.answers = {true, true};
+    press(laterView().CmdSupprime);
+    EXPECT_TRUE(world_.boxes.asked.isEmpty());
+    EXPECT_EQ(stored(2, "NUMECHO"), QStringList({"1"}));
+    EXPECT_TRUE(shown("Form10"));
 }
 
 TEST_F(LaterViewingWindow, ADeletionLeavesTheDossierWindowOnThePatients) {

@@ -102,6 +102,46 @@ TEST_F(LaterCorrectionWindow, HasNeitherTheKindNorTheChoicesOfTheWritingWindow) 
     EXPECT_EQ(form.find(u"txtAgeGesta")->kind(), forms::Kind::TextBox);
 }
 
+TEST_F(LaterCorrectionWindow, ItsControlsHaveTheirCaptionsAndTheirNumbers) {
+    const std::vector<std::pair<const char*, const char*>> captions{{"CmdModifs", "Enregistrer Modifs"},
+                                                                    {"CmdQuitter", "Quitter sans Enregistrer"},
+                                                                    {"CmdJ1", "J1"},
+                                                                    {"CmdJ2", "J2"},
+                                                                    {"CmdJ3", "J3"},
+                                                                    {"FrameJ1", "Foetus"},
+                                                                    {"FrameJ2", "Foetus N°2"},
+                                                                    {"FrameJ3", "Foetus N°3"}};
+    const Form11& form = openOnSecond();
+    EXPECT_TRUE(form.title().endsWith("Mode Correction"));
+    for (const auto& [control, caption] : captions) {
+        EXPECT_EQ(form.find(QString(control))->text(), caption) << control;
+    }
+    EXPECT_EQ(form.find(u"FrameJ3", 2), &form.sheet.FrameJ3);
+    EXPECT_EQ(form.find(u"Frame5", 3), &form.sheet.Frame5);
+}
+
+TEST_F(LaterCorrectionWindow, TheCalendarTheListsAndTheErasingServeItsFields) {
+    fakes::add(world_, "OPTIONS", {{"NUMEROS", 18}, {"Texte", "fin"}, {"TERMINAIS", "C"}});
+    Form11& form = openOnSecond();
+    form.sheet.Txt2T(4).setFocus();
+    desk().act([&] { form.sheet.Calendar1.choose(QDate(2001, 11, 5)); });
+    EXPECT_EQ(form.sheet.Txt2T(4).text(), "05/11/2001");
+    // 98 days before the exam: 14 weeks, 16 of amenorrhoea.
+    EXPECT_EQ(form.txtAgeGesta.text(), "16");
+    EXPECT_EQ(form.focused(), &form.sheet.Txt2T(5));
+    form.sheet.Txt2T(32).setFocus();
+    form.sheet.List1.setRow(0);
+    desk().act([&] { form.sheet.List1.doubleClick(); });
+    EXPECT_EQ(form.sheet.Txt2T(32).text(), "avantfin");
+    EXPECT_EQ(form.focused(), &form.sheet.Txt2T(1));
+    form.sheet.Txt2T(16).setFocus();
+    press(form.sheet.CmdEfface);
+    EXPECT_EQ(form.sheet.Txt2T(16).text(), "");
+    form.sheet.List2.setRow(3);
+    desk().act([&] { form.sheet.List2.doubleClick(); });
+    EXPECT_EQ(form.sheet.Txt2T(16).text(), "3");
+}
+
 TEST_F(LaterCorrectionWindow, TheButtonPutsTheFocusOnTheFirstFieldAndTheMenuEntryDoesNot) {
     const Form11& form = openOnSecond();
     EXPECT_EQ(form.focused(), &form.sheet.Txt2T(1));

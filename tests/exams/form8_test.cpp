@@ -76,6 +76,45 @@ TEST_F(LaterWritingWindow, OpensEmptyOnTheFirstExamOfADossier) {
     EXPECT_TRUE(shown("Form8"));
 }
 
+TEST_F(LaterWritingWindow, ItsControlsHaveTheirCaptionsAndTheirNumbers) {
+    const std::vector<std::pair<const char*, const char*>> captions{{"Option1", "G. Simple"},
+                                                                    {"Option2", "G. Gemellaire"},
+                                                                    {"Option3", "G. Triple"},
+                                                                    {"Perso", "Morpho Personnelle"},
+                                                                    {"Bourgeois", "Morpho Taiple"},
+                                                                    {"Frame5", "G Multiple"},
+                                                                    {"CmdJ1", "J1"},
+                                                                    {"CmdJ2", "J2"},
+                                                                    {"CmdJ3", "J3"},
+                                                                    {"FrameJ1", "Foetus"},
+                                                                    {"FrameJ2", "Foetus N°2"},
+                                                                    {"FrameJ3", "Foetus N°3"},
+                                                                    {"Label36", "Foetus N°"},
+                                                                    {"Label37", "2"},
+                                                                    {"CmdPhotos", "&Photos"},
+                                                                    {"CmdEnregis", "&Enregistrer"},
+                                                                    {"CmdQuitter", "&Quitter"}};
+    const Form8& form = newLater();
+    EXPECT_EQ(form.title(), "Echographie du 2ème et 3ème Trimestre");
+    for (const auto& [control, caption] : captions) {
+        EXPECT_EQ(form.find(QString(control))->text(), caption) << control;
+    }
+    EXPECT_NE(form.find(u"TxtNumFoet"), nullptr);
+    EXPECT_EQ(form.find(u"FrameJ1", 0), &form.sheet.FrameJ1);
+    EXPECT_EQ(form.find(u"FrameJ2", 1), &form.sheet.FrameJ2);
+    EXPECT_EQ(form.find(u"FrameJ3", 2), &form.sheet.FrameJ3);
+    EXPECT_EQ(form.find(u"Frame5", 3), &form.sheet.Frame5);
+}
+
+TEST_F(LaterWritingWindow, TheFirstExamOfADossierLeavesTheNumberOnTheLabel) {
+    addLater(2, 6, "10/01/2002");
+    const Form8& form = newLater();
+    EXPECT_EQ(form.lblNumEcho.text(), "7");
+    newLater("MARTIN");
+    EXPECT_EQ(form.sheet.TxtNumEcho.text(), "1");
+    EXPECT_EQ(form.lblNumEcho.text(), "7");
+}
+
 TEST_F(LaterWritingWindow, TakesTheLastRowOfTheDeviceAndItsDate) {
     store(14, "Ancien");
     store(14, "ORIVANNE");
@@ -321,6 +360,24 @@ TEST_F(LaterWritingWindow, APhraseThatClosesItsFieldGoesOnFromTheConclusionToThe
     EXPECT_EQ(form.focused(), &form.sheet.Txt2T(32));
     form.sheet.List1.setRow(0);
     desk().act([&] { form.sheet.List1.doubleClick(); });
+    EXPECT_EQ(form.focused(), &form.sheet.Txt2T(1));
+}
+
+TEST_F(LaterWritingWindow, AFieldOfTheOtherFetusesGoesOnToTheFirstField) {
+    for (const int rubric : {6, 25}) {
+        fakes::add(world_, "OPTIONS", {{"NUMEROS", rubric}, {"Texte", "fin"}, {"TERMINAIS", "C"}});
+    }
+    Form8& form = newLater();
+    for (const int index : {33, 34, 50, 51}) {
+        form.sheet.showFetus(index < 50 ? 1 : 2);
+        form.sheet.Txt2T(index).setFocus();
+        form.sheet.List1.setRow(0);
+        desk().act([&] { form.sheet.List1.doubleClick(); });
+        EXPECT_EQ(form.sheet.Txt2T(index).text(), "fin") << index;
+        EXPECT_EQ(form.focused(), &form.sheet.Txt2T(1)) << index;
+    }
+    form.sheet.Txt2T(66).setFocus();
+    desk().act([&] { form.sheet.List2.onRightClick(); });
     EXPECT_EQ(form.focused(), &form.sheet.Txt2T(1));
 }
 
@@ -574,7 +631,30 @@ TEST_F(LaterWritingWindow, SavesWithoutAnyCheck) {
     EXPECT_EQ(world_.boxes.said, QStringList({"Enregistré"}));
     EXPECT_EQ(stored(2, "NUMECHO"), QStringList({"1"}));
     EXPECT_EQ(stored(2, "NBRE"), QStringList({"1"}));
-    EXPECT_EQ(stored(2, "BIP"), QStringList({""}));
+    for (const char* field : {"BIP", "MACHINE", "DATECIRC", "AGESTA", "DG", "CONCLU1"}) {
+        EXPECT_FALSE(query("SELECT*FROM 1TER WHERE NUMERO=2").field(field).isNull()) << field;
+        EXPECT_EQ(stored(2, field), QStringList({""})) << field;
+    }
+}
+
+TEST_F(LaterWritingWindow, ANumberThatIsTakenIsSavedAsItStands) {
+    addLater(2, 1, "10/01/2002", {{"CONCLU1", "ancien"}});
+    Form8& form = newLater();
+    write(form.sheet.TxtNumEcho, "1");
+    write(form.sheet.Txt2T(32), "nouveau");
+    save(form);
+    EXPECT_EQ(stored(2, "NUMECHO"), QStringList({"1", "1"}));
+    EXPECT_EQ(stored(2, "CONCLU1"), QStringList({"ancien", "nouveau"}));
+}
+
+TEST_F(LaterWritingWindow, ADateThatCannotBeReadIsSavedAsTyped) {
+    Form8& form = newLater();
+    write(form.sheet.Txt2T(4), "mi-novembre");
+    write(form.sheet.txtDatexam, "ce matin");
+    save(form);
+    EXPECT_EQ(stored(2, "DGUS"), QStringList({"mi-novembre"}));
+    EXPECT_EQ(stored(2, "DATEXAM"), QStringList({"ce matin"}));
+    EXPECT_EQ(stored(2, "AGESTA"), QStringList({""}));
 }
 
 TEST_F(LaterWritingWindow, SavesEachFieldAsText) {
