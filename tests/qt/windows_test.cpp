@@ -130,6 +130,59 @@ TEST_F(AllWindows, NameEachFieldForAScreenReader) {
     });
 }
 
+/// Whether a caption of this text leads to the field.
+bool captioned(const QWidget* field, const QString& text) {
+    const QList<QLabel*> labels = field->window()->findChildren<QLabel*>();
+    return std::ranges::any_of(
+        labels, [&](const QLabel* label) { return label->buddy() == field && label->text().remove(u'&') == text; });
+}
+
+TEST_F(AllWindows, CaptionEachFieldOfTheLaterExams) {
+    const std::vector<std::pair<int, const char*>> once{{0, "BMI"},
+                                                        {1, "Opérateur"},
+                                                        {2, "DDR"},
+                                                        {3, "DDG Théorique"},
+                                                        {4, "DGUS"},
+                                                        {5, "Modalité d'examen"},
+                                                        {6, "Conditions d'examen"},
+                                                        {7, "Indication"},
+                                                        {8, "Utérus"},
+                                                        {9, "Annexes"},
+                                                        {10, "Douglas"},
+                                                        {11, "Uterine D."},
+                                                        {12, "Utérine G."},
+                                                        {30, "Liq. Amnio"},
+                                                        {31, "Placenta"},
+                                                        {32, "Conclusion"}};
+    const std::vector<const char*> ofEachFetus{"Présentation", "M.A.",       "Freq card",   "Bip",
+                                               "C. Ceph",      "D.I.O.",     "Cervelet",    "Dat",
+                                               "C. Abdo",      "Fémur (mm)", "Pied",        "Tibia",
+                                               "Humerus",      "Os Nez",     "Morphologie", "Art. Omb. (I. Pourcelot)",
+                                               "Cérebr. Ant."};
+    std::vector<std::pair<int, const char*>> captions = once;
+    for (const int first : {13, 33, 50}) {
+        for (int i = 0; i < static_cast<int>(ofEachFetus.size()); ++i) {
+            captions.emplace_back(first + i, ofEachFetus[static_cast<std::size_t>(i)]);
+        }
+    }
+    ASSERT_EQ(captions.size(), 67U);
+    for (const char* name : {"Form8", "Form11"}) {
+        const forms::Form* form = program_.desk().peek(name);
+        for (const auto& [index, caption] : captions) {
+            const QWidget* field = stage_.windowOf(*form)->widgetOf(*form->find(u"Txt2T", index));
+            EXPECT_TRUE(captioned(field, caption)) << name << ' ' << index;
+            EXPECT_EQ(field->accessibleName(), caption) << name << ' ' << index;
+        }
+        const std::vector<std::pair<const char16_t*, const char*>> strip{{u"TxtNumEcho", "Echographie N°"},
+                                                                         {u"txtDatexam", "Date de l'Examen"},
+                                                                         {u"TxtPds", "Poids"},
+                                                                         {u"TxtTaille", "Taille"}};
+        for (const auto& [control, caption] : strip) {
+            EXPECT_TRUE(captioned(stage_.windowOf(*form)->widgetOf(*form->find(control)), caption)) << name << caption;
+        }
+    }
+}
+
 TEST_F(AllWindows, LetTheKeyboardReachEachFieldAndButton) {
     forEachControl([](const Control& control, const QWidget* widget, const std::string& name) {
         if (control.kind() == Kind::TextBox || control.kind() == Kind::Button || control.kind() == Kind::ComboBox ||
