@@ -15,6 +15,7 @@
 #include <algorithm>
 
 #include "dossier/form4.h"
+#include "exams/form8.h"
 #include "fakes/world.h"
 #include "practice/practice.h"
 #include "qt/form_window.h"
@@ -181,6 +182,30 @@ TEST_F(AllWindows, CaptionEachFieldOfTheLaterExams) {
             EXPECT_TRUE(captioned(stage_.windowOf(*form)->widgetOf(*form->find(control)), caption)) << name << caption;
         }
     }
+}
+
+// With three fetuses and the zones the sheet is at its fullest.
+TEST_F(AllWindows, LeaveRoomForTheLongTextsOfTheLaterExams) {
+    auto* form = static_cast<exams::Form8*>(program_.desk().peek("Form8"));
+    FormWindow* window = stage_.windowOf(*form);
+    window->resize(1330, 710);
+    window->show();
+    program_.desk().act([&] {
+        form->Option3.setChecked(true);
+        form->Option3.click();
+        form->Bourgeois.click();
+    });
+    QApplication::processEvents();
+    const auto lines = [&](int index) {
+        const QWidget* field = window->widgetOf(*form->find(u"Txt2T", index));
+        return field->height() / field->fontMetrics().lineSpacing();
+    };
+    EXPECT_GE(lines(64), 6);
+    EXPECT_GE(lines(32), 4);
+    for (const int index : {7, 8, 9, 10, 30, 31}) {
+        EXPECT_GE(lines(index), 2) << index;
+    }
+    EXPECT_GT(window->widgetOf(form->sheet.Txt2T(32))->width(), 2 * window->widgetOf(form->sheet.Txt2T(31))->width());
 }
 
 TEST_F(AllWindows, LetTheKeyboardReachEachFieldAndButton) {

@@ -27,7 +27,7 @@ public:
 
     void build(const Strip& strip, const std::vector<forms::Button*>& actions) {
         ObstetricSheetLayout::build(
-            strip, [this] { return leftColumn(); }, [this] { return rightColumn(); }, actions);
+            strip, {.left = [this] { return leftColumn(); }, .right = [this] { return rightColumn(); }}, actions);
     }
 
 private:

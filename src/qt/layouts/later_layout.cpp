@@ -21,7 +21,8 @@ using theme::kGrid;
 // The fields that hold texts of several lines.
 const std::set<int> kLongTexts{7, 8, 9, 10, 27, 30, 31, 32, 47, 64};
 
-/// The columns of the later trimesters' fields: the mother's at the left, the fetus in view at the right.
+/// The columns of the later trimesters' fields: the mother's at the left, the fetus in view at the right, under both
+/// what concludes the exam.
 class LaterLayout : public ObstetricSheetLayout {
 public:
     LaterLayout(exams::LaterSheet& sheet, FormWindow& window)
@@ -30,8 +31,11 @@ public:
     /// `choices` choose the number of fetuses, `zones` stand under the morphology, in the window that has them.
     void build(const Strip& strip, const std::vector<forms::Option*>& choices, const std::vector<forms::Button*>& zones,
                const std::vector<forms::Button*>& actions, QMenuBar* menu = nullptr) {
-        ObstetricSheetLayout::build(
-            strip, [this] { return mother(); }, [&] { return fetuses(choices, zones); }, actions, menu);
+        ObstetricSheetLayout::build(strip,
+                                    {.left = [this] { return mother(); },
+                                     .right = [&] { return fetuses(choices, zones); },
+                                     .foot = [this] { return conclusion(); }},
+                                    actions, menu);
     }
 
 private:
@@ -39,10 +43,10 @@ private:
         auto* column = newColumn();
         auto* exam = new Section(QStringLiteral("Examen"));
         addRows(newFields(exam->body()), {1, 5, 6, 7});
-        column->addWidget(exam, 2);
+        column->addWidget(exam, 4);
         auto* pelvis = new Section(QStringLiteral("Pelvis"));
         addRows(newFields(pelvis->body()), {8, 9, 10});
-        column->addWidget(pelvis, 3);
+        column->addWidget(pelvis, 5);
         auto* arteries = new Section(QStringLiteral("Artères utérines"));
         addRows(newFields(arteries->body()), {11, 12});
         column->addWidget(arteries);
@@ -66,7 +70,6 @@ private:
             }
             column->addLayout(row);
         }
-        column->addWidget(conclusion(), 2);
         return column;
     }
 
@@ -89,19 +92,12 @@ private:
 
     QWidget* conclusion() {
         auto* end = new Section(QStringLiteral("Annexes foetales et conclusion"));
-        auto* column = newColumn(end->body());
-        auto* row = newRow();
-        for (const int index : {30, 31}) {
+        auto* row = newRow(end->body());
+        for (const auto& [index, width] : {std::pair(30, 1), std::pair(31, 1), std::pair(32, 3)}) {
             QWidget* widget = field(index);
             row->addWidget(newCaption(caption(index), widget), 0, Qt::AlignTop);
-            row->addWidget(widget, 1);
+            row->addWidget(widget, width);
         }
-        column->addLayout(row, 1);
-        auto* last = newRow();
-        QWidget* text = field(32);
-        last->addWidget(newCaption(caption(32), text), 0, Qt::AlignTop);
-        last->addWidget(text, 1);
-        column->addLayout(last, 1);
         return end;
     }
 

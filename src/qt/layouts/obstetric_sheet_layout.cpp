@@ -20,8 +20,7 @@ ObstetricSheetLayout::ObstetricSheetLayout(exams::ObstetricSheet& sheet, std::sp
                                            std::set<int> longTexts, FormWindow& window)
     : sheet_(sheet), rows_(rows), longTexts_(std::move(longTexts)), window_(window), bind_(window) {}
 
-void ObstetricSheetLayout::build(const Strip& parts, const std::function<QLayout*()>& left,
-                                 const std::function<QLayout*()>& right, const std::vector<forms::Button*>& actions,
+void ObstetricSheetLayout::build(const Strip& parts, const Sheet& sheet, const std::vector<forms::Button*>& actions,
                                  QMenuBar* menu) {
     auto* all = newColumn(&window_, 2);
     if (menu) {
@@ -30,7 +29,7 @@ void ObstetricSheetLayout::build(const Strip& parts, const std::function<QLayout
     all->addWidget(strip(parts));
     auto* body = newRow();
     body->setSpacing(2 * kGrid);
-    body->addWidget(columns(left, right), 1);
+    body->addWidget(columns(sheet), 1);
     body->addWidget(
         newOfferPanel(bind_, {sheet_.List1, sheet_.List2, sheet_.Calendar1, sheet_.Text1, sheet_.CmdEfface}));
     all->addLayout(body, 1);
@@ -83,12 +82,18 @@ QWidget* ObstetricSheetLayout::dating(const Strip& parts, ExamStrip& strip) {
     return strip.widget();
 }
 
-QWidget* ObstetricSheetLayout::columns(const std::function<QLayout*()>& left, const std::function<QLayout*()>& right) {
+QWidget* ObstetricSheetLayout::columns(const Sheet& parts) {
+    constexpr int kColumnsToFoot = 4;
     auto* sheet = new QWidget;
-    auto* columns = newRow(sheet);
+    auto* all = newColumn(sheet);
+    auto* columns = newRow();
     columns->setSpacing(2 * kGrid);
-    columns->addLayout(left(), 1);
-    columns->addLayout(right(), 1);
+    columns->addLayout(parts.left(), 1);
+    columns->addLayout(parts.right(), 1);
+    all->addLayout(columns, kColumnsToFoot);
+    if (parts.foot) {
+        all->addWidget(parts.foot(), 1);
+    }
     return scrolling(sheet);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <set>
 #include <span>
 
@@ -28,9 +29,16 @@ public:
     Binder& bind() { return bind_; }
     exams::ObstetricSheet& sheet() { return sheet_; }
 
-    /// Puts all together; the columns are made when their turn comes, so that Tab follows the eye.
-    void build(const Strip& strip, const std::function<QLayout*()>& left, const std::function<QLayout*()>& right,
-               const std::vector<forms::Button*>& actions, QMenuBar* menu = nullptr);
+    /// What the sheet is made of: two columns, and what stands under both, if anything. Each is made when its turn
+    /// comes, so that Tab follows the eye.
+    struct Sheet {
+        std::function<QLayout*()> left;
+        std::function<QLayout*()> right;
+        std::function<QWidget*()> foot = {};
+    };
+
+    void build(const Strip& strip, const Sheet& sheet, const std::vector<forms::Button*>& actions,
+               QMenuBar* menu = nullptr);
 
     QString caption(int index) const;
     /// The widget of a field, from which Enter walks on.
@@ -46,7 +54,7 @@ public:
 private:
     QWidget* strip(const Strip& parts);
     QWidget* dating(const Strip& parts, ExamStrip& strip);
-    QWidget* columns(const std::function<QLayout*()>& left, const std::function<QLayout*()>& right);
+    QWidget* columns(const Sheet& parts);
 
     exams::ObstetricSheet& sheet_;
     std::span<const responses::ExamField> rows_;
