@@ -30,7 +30,7 @@ OF_THE_TOUR = {
     "examen-tardif-redaction": "form8", "examen-tardif": "form10", "examen-tardif-correction": "form11",
     "biometrie": "form12", "courbe-bip": "form13",
     "gynecologie-redaction": "form16", "ovulation-redaction": "form16-ovulation", "gynecologie": "form18",
-    "ovulation": "form18-ovulation", "gynecologie-correction": "form17",
+    "ovulation": "form18-ovulation", "gynecologie-correction": "form17", "album": "form20", "album-feuille": "form20-feuille",
 }
 
 
@@ -40,7 +40,7 @@ def shown_by_pages():
 
 
 def echo(path, seed, width=360, height=288):
-    """Draws an invented ultrasound picture: a fan of speckle with a bright ring in it. Kept as the name says."""
+    """Draws an invented ultrasound picture: a fan of speckle with a bright ring in it. Its file is of the kind that its name says."""
     chance = random.Random(seed)
     left, top, across, down = 90 + 20 * seed, 140 + 9 * seed, 60 - 3 * seed, 40 + 2 * seed
     rows = []
@@ -83,13 +83,15 @@ class Pictures(Tour):
         print(name)
 
     def greeting(self):
+        """The window of one day in the year."""
         with tempfile.TemporaryDirectory() as folder:
             port = Port(folder, today="2002-04-16", platform="xcb", environment={"VERANOX_PALETTE": self.palette})
             port.start()
             self.keep("Form15", "form15", port)
             port.end()
 
-    def photos(self):
+    def captures(self):
+        """The capture window with a camera that shows invented pictures, and the dialog of their quality."""
         self.port.set("Form4.Text1", text="MARTINEAU")
         self.port.click("Form4.Cmd1Ter")
         self.port.click("Form5.CmdPhotos")
@@ -106,25 +108,6 @@ class Pictures(Tour):
         self.port.click("FrmCpr.Command2")
         self.port.click("Form19.Qui")
         self.port.click("Form5.CmdQuitter")
-
-    def album(self):
-        for number in range(1, 8):
-            file = echo(self.out / f"MART_ANN0206{number:02}_{number}.jpg", number)
-            self.port.insert(table="ECHOS", row={
-                "Nom": "MARTINEAU", "Prenom": "ANNE", "DATEXAM": f"{number:02}/06/2002", "NOMFICH": file.rsplit("/", 1)[-1],
-                "NOMPATH": file, "Typexam": "2", "DIAGNO": "Normal", "CRIT1": "Profil", "CRIT2": "Face", "CRIT3": "Main"})
-        self.port.click("Form4.CmdQuitter")
-        self.port.click("Form1.Command6")
-        self.port.type("Form20.TxtRechNom", text="MARTINEAU")
-        self.port.click("Form20.Command1")
-        self.port.click("Form20.CmdAffiche")
-        self.keep("Form20", "form20")
-        for place in [0, 3]:
-            self.port.dblclick(f"Form20.Image1({place})")
-            self.port.click("Form20.CmdImpr")
-            self.port.click("Form20.CmdFermer")
-        self.port.type("Form20.TxtImp", text="Profil et face")
-        self.keep("Form20", "form20-feuille")
 
 
 def reduce(source, target):
@@ -147,8 +130,7 @@ def main():
         pictures = Pictures(pathlib.Path(folder))
         try:
             pictures.walk()
-            pictures.photos()
-            pictures.album()
+            pictures.captures()
             pictures.greeting()
         finally:
             pictures.end()
