@@ -337,11 +337,11 @@ void Form12::reopenExams() {
 // An error of the dialog or of the printer ends it without a word.
 void Form12::print() {
     try {
-        if (const auto printer = around_.printers.choose()) {
-            const ports::PageGeometry paper = printer->geometry();
-            const auto job = printer->open(title());
+        around_.printers.choose([this](ports::Printer& printer) {
+            const ports::PageGeometry paper = printer.geometry();
+            const auto job = printer.open(title());
             paintSheet(job->painter(), paper, sheet());
-        }
+        });
     } catch (const base::RuntimeError&) {
     }
 }

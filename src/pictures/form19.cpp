@@ -277,9 +277,7 @@ void Form19::Imprim() {
 
 void Form19::printOnChosen() {
     try {
-        if (const auto printer = around_.printers.choose()) {
-            print(printer.get());
-        }
+        around_.printers.choose([this](ports::Printer& printer) { print(&printer); });
     } catch (const base::RuntimeError&) {
         // The person has seen the printer's own dialog; the sheet is simply not there.
     }

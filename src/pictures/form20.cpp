@@ -414,9 +414,7 @@ void Form20::Imprime() {
 }
 
 void Form20::chooseAndPrint() {
-    if (const auto printer = around_.printers.choose()) {
-        print(*printer);
-    }
+    around_.printers.choose([this](ports::Printer& printer) { print(printer); });
 }
 
 }  // namespace pictures

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <cstdint>
+#include <functional>
 #include <memory>
 
 class QPainter;
@@ -46,8 +47,11 @@ public:
     virtual ~Printers() = default;
     /// The one that serves where none is chosen, with A4 paper upright; null on a machine without a printer.
     virtual std::unique_ptr<Printer> standard() = 0;
-    /// Lets a person choose a printer and its paper, or a PDF file; null on Cancel.
-    virtual std::unique_ptr<Printer> choose() = 0;
+    /// Prints, by this function, a whole document on a printer.
+    using Print = std::function<void(Printer&)>;
+    /// Lets a person choose a printer and its paper, or a PDF file, and prints there; nothing on Cancel. Before that
+    /// the person may look at the pages, as often as he likes. Throws what `print` throws.
+    virtual void choose(const Print& print) = 0;
 };
 
 }  // namespace ports

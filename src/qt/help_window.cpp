@@ -232,9 +232,7 @@ void HelpWindow::step(int chapters) {
 
 void HelpWindow::print() {
     try {
-        if (const auto printer = printers_.choose()) {
-            pages_->printOn(*printer);
-        }
+        printers_.choose([this](ports::Printer& printer) { pages_->printOn(printer); });
     } catch (const base::RuntimeError&) {
         // The printer has told its person itself.
     }

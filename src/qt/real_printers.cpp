@@ -1,12 +1,16 @@
 #include "qt/real_printers.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QPainter>
 #include <QPrintDialog>
+#include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QPushButton>
 #include <cmath>
+#include <optional>
 
 #include "base/errors.h"
 
@@ -41,7 +45,7 @@ private:
 
 class RealPrinter final : public ports::Printer {
 public:
-    explicit RealPrinter(std::unique_ptr<QPrinter> printer) : printer_(std::move(printer)) {
+    explicit RealPrinter(std::shared_ptr<QPrinter> printer) : printer_(std::move(printer)) {
         // The margins are the program's own matter: the printer keeps what it can't do without. Both are told in the
         // unit that the layout has at the moment.
         const QPageLayout layout = printer_->pageLayout();
@@ -69,6 +73,33 @@ public:
 private:
     std::shared_ptr<QPrinter> printer_;
 };
+
+/// Keeps an error from going through the toolkit, which can't bear it, until it can be thrown again.
+class Boundary {
+public:
+    template <class Step>
+    void run(Step step) {
+        try {
+            step();
+        } catch (const base::RuntimeError& error) {
+            failure_ = error;
+        }
+    }
+    bool failed() const { return failure_.has_value(); }
+    void rethrow() const {
+        if (failure_) {
+            throw *failure_;
+        }
+    }
+
+private:
+    std::optional<base::RuntimeError> failure_;
+};
+
+QPushButton* addPreviewButton(QPrintDialog& dialog) {
+    auto* buttons = dialog.findChild<QDialogButtonBox*>();
+    return buttons ? buttons->addButton(QStringLiteral("A&perçu"), QDialogButtonBox::ActionRole) : nullptr;
+}
 
 void putA4Upright(QPrinter& printer) {
     printer.setPageSize(QPageSize(QPageSize::A4));
@@ -100,20 +131,53 @@ std::unique_ptr<ports::Printer> RealPrinters::standard() {
     return std::make_unique<RealPrinter>(std::move(printer));
 }
 
-std::unique_ptr<ports::Printer> RealPrinters::choose() {
-    auto printer = makeStandard();
+std::shared_ptr<QPrinter> RealPrinters::newPrinter() const {
+    std::shared_ptr<QPrinter> printer = makeStandard();
     if (!printer) {
         printer = newPdf();
     }
     putA4Upright(*printer);
+    return printer;
+}
+
+void RealPrinters::choose(const Print& print) {
+    const auto printer = newPrinter();
     QPrintDialog dialog(printer.get(), QApplication::activeWindow());
     dialog.setObjectName(QStringLiteral("print"));
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
-    if (dialog.exec() != QDialog::Accepted) {
-        return nullptr;
+    Boundary boundary;
+    if (QPushButton* look = addPreviewButton(dialog)) {
+        QObject::connect(look, &QPushButton::clicked, &dialog, [&] {
+            boundary.run([&] { preview(print, &dialog); });
+            if (boundary.failed()) {
+                dialog.reject();
+            }
+        });
     }
-    settle(*printer);
-    return std::make_unique<RealPrinter>(std::move(printer));
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    boundary.rethrow();
+    if (accepted) {
+        settle(*printer);
+        RealPrinter chosen(printer);
+        print(chosen);
+    }
+}
+
+// Shows the pages that `print` would put on the standard printer's paper.
+void RealPrinters::preview(const Print& print, QWidget* above) const {
+    const auto printer = newPrinter();
+    QPrintPreviewDialog dialog(printer.get(), above);
+    dialog.setObjectName(QStringLiteral("preview"));
+    dialog.setWindowTitle(QStringLiteral("Aperçu avant impression"));
+    Boundary boundary;
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter*) {
+        boundary.run([&] {
+            RealPrinter paper(printer);
+            print(paper);
+        });
+    });
+    dialog.exec();
+    boundary.rethrow();
 }
 
 }  // namespace qt

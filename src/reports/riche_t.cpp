@@ -104,9 +104,8 @@ void RicheT::RichTextBox1_SelChange() {
 
 void RicheT::imprimer_Click() {
     skipping([this] {
-        if (const auto printer = around_.printers.choose()) {
-            PrintRTF(RichTextBox1, *printer, title(), kPaperMargins);
-        }
+        around_.printers.choose(
+            [this](ports::Printer& printer) { PrintRTF(RichTextBox1, printer, title(), kPaperMargins); });
     });
 }
 

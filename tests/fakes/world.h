@@ -115,9 +115,12 @@ public:
     };
 
     std::unique_ptr<ports::Printer> standard() override { return page ? std::make_unique<Printer>(*this) : nullptr; }
-    std::unique_ptr<ports::Printer> choose() override {
+    void choose(const Print& print) override {
         ++dialogs;
-        return accepts ? std::make_unique<Printer>(*this) : nullptr;
+        if (accepts) {
+            Printer chosen(*this);
+            print(chosen);
+        }
     }
 
     std::optional<ports::PageGeometry> page;  // none: no printer on this machine

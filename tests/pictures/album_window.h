@@ -16,9 +16,12 @@ public:
     static constexpr int kPixelsPerMillimetre = 10;
 
     std::unique_ptr<ports::Printer> standard() override { return there ? std::make_unique<Printer>(*this) : nullptr; }
-    std::unique_ptr<ports::Printer> choose() override {
+    void choose(const Print& print) override {
         ++dialogs;
-        return accepts ? std::make_unique<Printer>(*this) : nullptr;
+        if (accepts) {
+            Printer chosen(*this);
+            print(chosen);
+        }
     }
 
     bool there = true;

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPrintDialog>
+#include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -158,16 +159,16 @@ TEST(PrinterDialog, LeadsToThePrinterChosen) {
     QTemporaryDir folder;
     PdfPrinters printers(folder.filePath("x.pdf"));
     answerDialog(QDialogButtonBox::Ok, [](const QDialog& dialog) { EXPECT_EQ(dialog.objectName(), "print"); });
-    const auto printer = printers.choose();
-    ASSERT_NE(printer, nullptr);
-    EXPECT_EQ(printer->geometry().width, 11906);
+    int width = 0;
+    printers.choose([&](ports::Printer& printer) { width = printer.geometry().width; });
+    EXPECT_EQ(width, 11906);
 }
 
 TEST(PrinterDialog, LeadsNowhereWhenItIsCancelled) {
     QTemporaryDir folder;
     PdfPrinters printers(folder.filePath("x.pdf"));
     answerDialog(QDialogButtonBox::Cancel, [](const QDialog&) {});
-    EXPECT_EQ(printers.choose(), nullptr);
+    printers.choose([](ports::Printer&) { FAIL() << "printed"; });
     EXPECT_FALSE(QFile::exists(folder.filePath("x.pdf")));
 }
 
@@ -188,10 +189,57 @@ TEST(PrinterDialog, OffersAPdfFileOnAMachineWithoutAPrinter) {
         EXPECT_TRUE(name->text().endsWith(".pdf"));
         name->setText(file);
     });
-    const auto printer = printers.choose();
-    ASSERT_NE(printer, nullptr);
-    { printer->open("Essai")->painter().drawLine(0, 0, 100, 100); }
+    printers.choose([](ports::Printer& printer) { printer.open("Essai")->painter().drawLine(0, 0, 100, 100); });
     EXPECT_TRUE(QFile::exists(file));
+}
+
+/// Presses the preview's button in the printer dialog, looks at the preview, closes it, and cancels the dialog.
+template <class Look>
+void previewAndCancel(Look look) {
+    answerDialog(QDialogButtonBox::Cancel, [look](QDialog& dialog) {
+        for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
+            if (button->text() == "A&perçu") {
+                QTimer::singleShot(0, qApp, [look] {
+                    auto* preview = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+                    ASSERT_NE(preview, nullptr);
+                    look(*preview);
+                    preview->reject();
+                });
+                button->click();
+                return;
+            }
+        }
+        FAIL() << "no preview";
+    });
+}
+
+TEST(PrinterDialog, ShowsThePagesBeforeTheyArePrinted) {
+    QTemporaryDir folder;
+    PdfPrinters printers(folder.filePath("x.pdf"));
+    int pages = 0;
+    previewAndCancel([&](const QDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Aperçu avant impression");
+        auto* preview = dialog.findChild<QPrintPreviewWidget*>();
+        ASSERT_NE(preview, nullptr);
+        preview->updatePreview();
+        pages = preview->pageCount();
+    });
+    printers.choose([](ports::Printer& printer) {
+        const auto job = printer.open("Essai");
+        job->painter().drawText(100, 100, "un");
+        job->newPage();
+        job->painter().drawText(100, 100, "deux");
+    });
+    EXPECT_EQ(pages, 2);
+    EXPECT_FALSE(QFile::exists(folder.filePath("x.pdf")));
+}
+
+TEST(PrinterDialog, TellsWhatFailsInThePreview) {
+    QTemporaryDir folder;
+    PdfPrinters printers(folder.filePath("x.pdf"));
+    previewAndCancel([](const QDialog& dialog) { dialog.findChild<QPrintPreviewWidget*>()->updatePreview(); });
+    EXPECT_THROW(printers.choose([](ports::Printer&) { throw base::RuntimeError(base::ErrorNumber::InvalidPicture); }),
+                 base::RuntimeError);
 }
 
 TEST(FontDialogBox, GivesBackWhatItWasOfferedWhenNothingIsChanged) {
