@@ -340,7 +340,13 @@ void Form12::print() {
         around_.printers.choose([this](ports::Printer& printer) {
             const ports::PageGeometry paper = printer.geometry();
             const auto job = printer.open(title());
-            paintSheet(job->painter(), paper, sheet());
+            const Sheet printed = sheet();
+            for (std::size_t i = 0; i < sheetCount(printed); ++i) {
+                if (i > 0) {
+                    job->newPage();
+                }
+                paintSheet(job->painter(), paper, printed, i);
+            }
         });
     } catch (const base::RuntimeError&) {
     }

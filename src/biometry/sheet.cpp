@@ -1,6 +1,8 @@
 #include "biometry/sheet.h"
 
 #include <QPainter>
+#include <algorithm>
+#include <span>
 
 #include "biometry/chart_painter.h"
 
@@ -18,6 +20,9 @@ constexpr int kLeft = 138;
 constexpr int kColumn = 3950;
 constexpr int kValues = 3100;  // from the left of a column, behind the longest name
 constexpr int kTablesTop = 9400;
+constexpr int kFurtherTop = 1500;               // of the recall on the sheets behind the first
+constexpr int kRetriedHeight = 27 * kLine / 2;  // thirteen lines and the gap under them
+constexpr int kRecallHeadLines = 2;
 
 /// Draws texts line under line, in columns, in twips.
 class Lines {
@@ -109,7 +114,7 @@ void drawRetried(Lines& lines, const Retried& retried) {
     lines.skip();
 }
 
-void drawRecalled(Lines& lines, const std::vector<RecalledExam>& exams) {
+void drawRecalled(Lines& lines, std::span<const RecalledExam> exams) {
     constexpr std::array<int, 6> kPlaces{0, 1800, 2800, 4200, 5600, 7000};
     const auto cells = [&](const RecalledExam& texts) {
         std::vector<std::pair<double, QString>> row;
@@ -122,6 +127,40 @@ void drawRecalled(Lines& lines, const std::vector<RecalledExam>& exams) {
     lines.cells(cells({"Date", "N°", "S.A.", "Bip", "Ca", "Fem"}), true);
     for (const RecalledExam& exam : exams) {
         lines.cells(cells(exam));
+    }
+}
+
+// How many recalled exams have room between `top` and the end of the page.
+constexpr std::size_t roomBelow(int top) {
+    return static_cast<std::size_t>((static_cast<int>(kPageHeight) - top) / kLine - kRecallHeadLines);
+}
+
+std::size_t roomOnFirst(const Sheet& sheet) {
+    return roomBelow(sheet.retried ? kTablesTop + kRetriedHeight : kTablesTop);
+}
+
+constexpr std::size_t kRoomOnFurther = roomBelow(kFurtherTop);
+
+// The recalled exams of one sheet of paper.
+std::span<const RecalledExam> recalledOn(const Sheet& sheet, std::size_t number) {
+    const std::span<const RecalledExam> all = *sheet.recalled;
+    const std::size_t first = number == 0 ? 0 : roomOnFirst(sheet) + (number - 1) * kRoomOnFurther;
+    const std::size_t room = number == 0 ? roomOnFirst(sheet) : kRoomOnFurther;
+    return all.subspan(first, std::min(room, all.size() - first));
+}
+
+// The page with its charts, and what is showing beside it.
+void drawFirst(QPainter& painter, const Sheet& sheet) {
+    drawMeasures(painter, sheet.page);
+    drawWeights(painter, sheet.page);
+    drawCharts(painter, sheet.points);
+    painter.setPen(Qt::black);
+    Lines lines(painter, kLeft, kTablesTop);
+    if (sheet.retried) {
+        drawRetried(lines, *sheet.retried);
+    }
+    if (sheet.recalled) {
+        drawRecalled(lines, recalledOn(sheet, 0));
     }
 }
 
@@ -139,21 +178,22 @@ void fit(QPainter& painter, const ports::PageGeometry& paper) {
 
 }  // namespace
 
-void paintSheet(QPainter& painter, const ports::PageGeometry& paper, const Sheet& sheet) {
+std::size_t sheetCount(const Sheet& sheet) {
+    const std::size_t recalled = sheet.recalled ? sheet.recalled->size() : 0;
+    const std::size_t first = roomOnFirst(sheet);
+    return recalled <= first ? 1 : 1 + (recalled - first + kRoomOnFurther - 1) / kRoomOnFurther;
+}
+
+void paintSheet(QPainter& painter, const ports::PageGeometry& paper, const Sheet& sheet, std::size_t number) {
     painter.save();
     fit(painter, paper);
     painter.setPen(Qt::black);
     drawHead(painter, sheet.page);
-    drawMeasures(painter, sheet.page);
-    drawWeights(painter, sheet.page);
-    drawCharts(painter, sheet.points);
-    painter.setPen(Qt::black);
-    Lines lines(painter, kLeft, kTablesTop);
-    if (sheet.retried) {
-        drawRetried(lines, *sheet.retried);
-    }
-    if (sheet.recalled) {
-        drawRecalled(lines, *sheet.recalled);
+    if (number == 0) {
+        drawFirst(painter, sheet);
+    } else {
+        Lines lines(painter, kLeft, kFurtherTop);
+        drawRecalled(lines, recalledOn(sheet, number));
     }
     painter.restore();
 }

@@ -45,8 +45,11 @@ struct Sheet {
     std::optional<std::vector<RecalledExam>> recalled;
 };
 
-/// Draws the sheet on one page of paper, as large as what the printer reaches allows. The painter works in device
-/// pixels from the first point that can be printed.
-void paintSheet(QPainter& painter, const ports::PageGeometry& paper, const Sheet& sheet);
+/// How many sheets of paper it takes: one, or more where a long recall goes on behind the first.
+std::size_t sheetCount(const Sheet& sheet);
+
+/// Draws the sheet of this number, from 0, on one page of paper, as large as what the printer reaches allows. The
+/// painter works in device pixels from the first point that can be printed.
+void paintSheet(QPainter& painter, const ports::PageGeometry& paper, const Sheet& sheet, std::size_t number);
 
 }  // namespace biometry

@@ -699,6 +699,18 @@ TEST_F(Printing, AsksForAPrinterAndPrintsOnePage) {
     EXPECT_TRUE(world_.printers.jobs[0].ended);
 }
 
+TEST_F(Printing, GoesOnToASecondSheetBehindALongRecall) {
+    for (int i = 1; i <= 25; ++i) {
+        addExam(i, "01/01/2002", {{"AGESTA", "22"}, {"Bip", "51"}});
+    }
+    Form12& form = open();
+    press(form.Rappel);
+    press(form.Imprime);
+    ASSERT_EQ(world_.printers.jobs.size(), 1U);
+    EXPECT_EQ(world_.printers.jobs[0].pages, 2);
+    EXPECT_TRUE(world_.printers.jobs[0].ended);
+}
+
 TEST_F(Printing, EndsWithoutAWordOnCancelAndOnAnError) {
     world_.printers.accepts = false;
     press(open().Imprime);

@@ -227,7 +227,7 @@ TEST(PrintedPage, KeepsClearOfTheEdgesOfThePaper) {
         QImage image(827 - 2 * offset, 1169 - 2 * offset, QImage::Format_RGB32);
         image.fill(Qt::white);
         QPainter painter(&image);
-        paintSheet(painter, paper, fullSheet());
+        paintSheet(painter, paper, fullSheet(), 0);
         painter.end();
         const QRectF ink = inked(image, kDpi / 25.4).translated(offset * 25.4 / kDpi, offset * 25.4 / kDpi);
         EXPECT_GT(ink.left(), 6) << offset;
@@ -236,6 +236,55 @@ TEST(PrintedPage, KeepsClearOfTheEdgesOfThePaper) {
         EXPECT_LT(ink.bottom(), 291) << offset;
         EXPECT_GT(ink.width(), 150) << offset;
     }
+}
+
+Sheet sheetRecalling(std::size_t exams) {
+    Sheet sheet{page(sampleExam(), 0, QDate(2002, 6, 14)), {}, {}, {}};
+    sheet.recalled = std::vector<RecalledExam>(exams, RecalledExam{"21/05/2002", "1", "22", "53", "173", "38"});
+    return sheet;
+}
+
+/// What of a printed page bears ink, at ten twips a pixel and with no edge that can't be printed.
+QRectF inkOf(const Sheet& sheet, std::size_t number) {
+    constexpr int kDpi = 144;
+    const ports::PageGeometry paper{.width = 11906, .height = 16838, .dpiX = kDpi, .dpiY = kDpi};
+    QImage image(1191, 1684, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    paintSheet(painter, paper, sheet, number);
+    painter.end();
+    return inked(image, 1);
+}
+
+TEST(PrintedPage, TakesOneSheetAsLongAsTheRecallHasRoom) {
+    EXPECT_EQ(sheetCount(sheetRecalling(0)), 1U);
+    // From 9400 to 16838 there are 26 lines of 280; two are the heading's.
+    EXPECT_EQ(sheetCount(sheetRecalling(24)), 1U);
+    EXPECT_EQ(sheetCount(sheetRecalling(25)), 2U);
+    // From 1500 there are 54.
+    EXPECT_EQ(sheetCount(sheetRecalling(24 + 52)), 2U);
+    EXPECT_EQ(sheetCount(sheetRecalling(24 + 53)), 3U);
+}
+
+TEST(PrintedPage, HasLessRoomForTheRecallUnderTheCalculator) {
+    Sheet sheet = sheetRecalling(11);
+    sheet.retried = Retried();
+    EXPECT_EQ(sheetCount(sheet), 1U);
+    sheet.recalled->push_back({});
+    EXPECT_EQ(sheetCount(sheet), 2U);
+    sheet.recalled.reset();
+    EXPECT_EQ(sheetCount(sheet), 1U);
+}
+
+TEST(PrintedPage, EndsAboveTheEdgeHoweverLongTheRecall) {
+    const Sheet sheet = sheetRecalling(24 + 52 + 1);
+    // The edge is 360 of 16838 twips.
+    constexpr double kLast = 1684 - 36;
+    EXPECT_LT(inkOf(sheet, 0).bottom(), kLast);
+    EXPECT_GT(inkOf(sheet, 0).bottom(), kLast - 60);
+    EXPECT_LT(inkOf(sheet, 1).bottom(), kLast);
+    EXPECT_GT(inkOf(sheet, 1).bottom(), kLast - 60);
+    EXPECT_LT(inkOf(sheet, 2).bottom(), 300);
 }
 
 }  // namespace

@@ -324,6 +324,21 @@ def test_the_page_is_printed_as_it_stands(port, tmp_path):
     assert text.count("\f") == 1
 
 
+def test_a_recall_longer_than_the_sheet_is_printed_whole(port, tmp_path):
+    pdf = tmp_path / "biometrie.pdf"
+    exams = [{**EXAM, "NUMECHO": i, "Bip": str(50 + i)} for i in range(1, 31)]
+    biometry(port, *exams)
+    port.click("Form12.Rappel")
+    port.printer(file=str(pdf))
+    port.answer(**{"with": ["ok"]})
+    port.click("Form12.Imprime")
+    sheets = printed(pdf).split("\f")[:-1]
+    assert len(sheets) == 2
+    rows = [[line.split()[1] for line in sheet.splitlines() if line.startswith("21/05/2002")] for sheet in sheets]
+    assert rows == [[str(i) for i in range(1, 25)], [str(i) for i in range(25, 31)]]
+    assert all("DUPONT" in sheet and "Rappel" in sheet for sheet in sheets)
+
+
 def test_a_cancelled_print_says_nothing(port, tmp_path):
     pdf = tmp_path / "biometrie.pdf"
     biometry(port)
