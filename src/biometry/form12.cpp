@@ -30,6 +30,11 @@ constexpr std::array<Measure, kMeasureCount> kLoadOrder{Measure::Orb,  Measure::
                                                         Measure::Dat,  Measure::Ca,  Measure::Fem,
                                                         Measure::Pied, Measure::Hum, Measure::Cer};
 
+/// The order in which a changed week moves the scroll bars.
+constexpr std::array<Measure, kMeasureCount> kScrollOrder{Measure::Bip,  Measure::Orb, Measure::Cc,
+                                                          Measure::Dat,  Measure::Ca,  Measure::Fem,
+                                                          Measure::Pied, Measure::Hum, Measure::Cer};
+
 void addPoint(std::vector<PlacedPoint>& points, const forms::Marker& marker) {
     if (marker.visible() && marker.spot()) {
         points.push_back({{marker.spot()->left, marker.spot()->top}, *marker.color()});
@@ -202,9 +207,9 @@ void Form12::onWeekChange() {
     if (change.blanksEstimatedWeight) {
         Poids.setText({});
     }
-    for (const Row& row : rows_) {
-        if (const auto value = change.scrollBars[indexOf(row.measure)]) {
-            row.scroll.setValue(*value);
+    for (const Measure measure : kScrollOrder) {
+        if (const auto value = change.scrollBars[indexOf(measure)]) {
+            row(measure).scroll.setValue(*value);
         }
     }
     if (change.emptiesMeasuresLast) {

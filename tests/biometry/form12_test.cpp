@@ -183,6 +183,19 @@ TEST_F(Loading, IsDoneAnewForTheExamAndFetusInView) {
     EXPECT_EQ(openFetus(2).Bip.text(), "47");
 }
 
+TEST_F(Loading, CaptionsItsMenusButtonsAndFrames) {
+    const Form12& form = open();
+    const std::vector<std::pair<const forms::Control*, const char*>> captions{
+        {&form.Quitter, "&Quitter"},        {&form.Imprime, "&Imprimer"},   {&form.Courbe, "&Courbes"},
+        {&form.ReCalculer, "&Re-Calculer"}, {&form.Rappel, "R&appel"},      {&form.Command1, "C&alcule"},
+        {&form.Command2, "Calc&ule"},       {&form.CmdQuitter, "Q&uitter"}, {&form.Command3, "&Fermer"},
+        {&form.Frame10, "Rappel"},
+    };
+    for (const auto& [control, caption] : captions) {
+        EXPECT_EQ(control->text(), caption) << control->name().toStdString();
+    }
+}
+
 class ChangeOfTheWeek : public BiometryWindows {};
 
 TEST_F(ChangeOfTheWeek, EmptiesTheMeasuresAndSetsTheMedians) {
@@ -216,6 +229,17 @@ TEST_F(ChangeOfTheWeek, MovesTheScrollBarsToTheMedians) {
     EXPECT_EQ(form.PiedScroll.value(), 58);
     EXPECT_EQ(form.HumScroll.value(), 51);
     EXPECT_EQ(form.CerScroll.value(), 36);
+}
+
+TEST_F(ChangeOfTheWeek, MovesTheBarOfTheOrbitsAfterThatOfTheBip) {
+    Form12& form = open();
+    QStringList moved;
+    for (const auto& row : form.rows()) {
+        row.scroll.onChange = [&moved, &row] { moved << row.scroll.name(); };
+    }
+    write(form.SAF3, "30");
+    EXPECT_EQ(moved, (QStringList{"BipScroll", "OrbScroll", "CCScroll", "DatScroll", "CAScroll", "FemurScroll",
+                                  "PiedScroll", "HumScroll", "CerScroll"}));
 }
 
 TEST_F(ChangeOfTheWeek, RoundsTheHalfOfTheOrbitBarToTheEvenNumber) {
@@ -414,6 +438,15 @@ TEST_F(Retrying, FailsToDivideByAFemurOfZeroOrAWord) {
         EXPECT_EQ(world_.boxes.reported, QList<int>({11})) << femur;
         EXPECT_EQ(form.FemPied.text(), "");
     }
+}
+
+TEST_F(Retrying, HasTheFirstRatioWhenTheSecondFailsToDivide) {
+    Form12& form = open();
+    write(form.Bip, "0");
+    press(form.Command1);
+    EXPECT_EQ(world_.boxes.reported, QList<int>({11}));
+    EXPECT_EQ(form.FemPied.text(), "1,00");
+    EXPECT_EQ(form.DioBip.text(), "");
 }
 
 TEST_F(Retrying, ComputesTheWeight) {
@@ -617,6 +650,38 @@ TEST_F(Recall, WithoutAnExamLeavesTheListsEmptyAndHidesAllPoints) {
     EXPECT_EQ(visible(form.PtFem), kNone);
 }
 
+// The start goes into the query as it stands.
+TEST_F(Recall, FailsForAStartWithAQuotationMark) {
+    eightExams();
+    Form12& form = open();
+    press(form.Rappel);
+    press(form.Command3);
+    exam().start = "01/01/20'02";
+    Form12& quoted = open();
+    press(quoted.Rappel);
+    EXPECT_EQ(world_.boxes.reported, QList<int>({3075}));
+    EXPECT_TRUE(quoted.Frame10.visible());
+    EXPECT_FALSE(quoted.ShPtBip.visible() || quoted.ShPtCa.visible() || quoted.ShPtFem.visible());
+    EXPECT_EQ(quoted.ListDate.count(), 0);
+    EXPECT_EQ(visible(quoted.PtBip), kNone);
+}
+
+TEST_F(Recall, PlacesEachExamOnAllThreeCharts) {
+    addExam(1, "01/01/2002", {{"AGESTA", "22"}, {"Bip", "53"}, {"Ca", "173"}, {"Fem", "38"}});
+    addExam(2, "01/01/2002", {{"AGESTA", "13"}, {"Bip", "24"}, {"Ca", "80"}, {"Fem", "10"}});
+    Form12& form = open();
+    press(form.Rappel);
+    // 4095 + 7 x 3735/27 and 8600 - 173 x 4450/400; 8045 + 9 x 3735/29 and 8610 - 38 x 4455/90
+    EXPECT_FLOAT_EQ(form.PtCa(0).spot()->left, 5063.3335F);
+    EXPECT_FLOAT_EQ(form.PtCa(0).spot()->top, 6675.375F);
+    EXPECT_FLOAT_EQ(form.PtFem(0).spot()->left, 9204.138F);
+    EXPECT_FLOAT_EQ(form.PtFem(0).spot()->top, 6729.0F);
+    // Two weeks before the first of its chart: 4095 - 2 x 3735/27
+    EXPECT_TRUE(form.PtCa(1).visible());
+    EXPECT_FLOAT_EQ(form.PtCa(1).spot()->left, 3818.3333F);
+    EXPECT_FLOAT_EQ(form.PtFem(1).spot()->top, 8115.0F);
+}
+
 TEST_F(Recall, BeginsAnewEachTime) {
     eightExams();
     Form12& form = open();
@@ -640,6 +705,23 @@ TEST_F(Recall, GivesEachChartAColourOfItsOwn) {
     EXPECT_NE(form.PtBip(0).color(), form.PtCa(0).color());
     EXPECT_NE(form.PtCa(0).color(), form.PtFem(0).color());
     EXPECT_EQ(form.ShPtBip.color(), form.ShPtFem.color());
+}
+
+TEST_F(Recall, HasPointsOf105TwipsThePresentOnesRed) {
+    const Form12& form = open();
+    for (const forms::Marker* present : {&form.ShPtBip, &form.ShPtCa, &form.ShPtFem}) {
+        EXPECT_EQ(present->side(), 105);
+        const forms::Color colour = present->color().value();
+        EXPECT_GT(colour >> 16, 0xC0U);
+        EXPECT_LT(colour & 0xFFFF, 0x4000U);
+    }
+    for (const forms::Array<forms::Marker>* family : {&form.PtBip, &form.PtCa, &form.PtFem}) {
+        EXPECT_EQ(family->first(), 0);
+        EXPECT_EQ(family->last(), 5);
+        for (int i = 0; i <= 5; ++i) {
+            EXPECT_EQ((*family)(i).side(), 105);
+        }
+    }
 }
 
 class Leaving : public BiometryWindows {

@@ -47,6 +47,7 @@ TEST_F(Curves, OpenWithoutAChartOnTheWeekOfTheCalculator) {
     EXPECT_EQ(form.Sem_Entier.text(), "22");
     EXPECT_FALSE(form.Sem_Entier.visible());
     EXPECT_FALSE(form.Frame2.visible());
+    EXPECT_EQ(form.Frame2.text(), "Sem. A.");
     EXPECT_FALSE(form.Centile.visible());
     EXPECT_FALSE(form.Croix.visible());
     EXPECT_TRUE(form.Label3.visible());
@@ -161,6 +162,29 @@ TEST_F(Curves, WithoutAWeekShowTheChartWithoutACrossAndStillTheWord) {
     EXPECT_FALSE(form.Ordonnee.visible());
     EXPECT_TRUE(form.Centile.visible());
     EXPECT_FALSE(form.Abscisse.spot().has_value());
+}
+
+TEST_F(Curves, PlaceTheCrossAboveTheirSpanToo) {
+    Form12& biometry = open();
+    Form13& form = curves();
+    write(biometry.Bip, "130");
+    press(form.CommandBip);
+    EXPECT_TRUE(form.Croix.visible());
+    // 6195 - 130 x 4990/120
+    EXPECT_FLOAT_EQ(form.Croix.spot()->top, 789.16669F);
+}
+
+TEST_F(Curves, ShowTheCrossAgainForAMeasureAfterOneWithout) {
+    Form12& biometry = open();
+    Form13& form = curves();
+    write(biometry.Ca, "grande");
+    press(form.CommandCa);
+    EXPECT_FALSE(form.Croix.visible());
+    EXPECT_FALSE(form.Ordonnee.visible());
+    press(form.CommandFem);
+    EXPECT_TRUE(form.Croix.visible());
+    EXPECT_TRUE(form.Ordonnee.visible());
+    EXPECT_TRUE(form.Centile.visible());
 }
 
 TEST_F(Curves, OfTheTibiaAreNotThere) {
