@@ -1,9 +1,10 @@
 """The biometry of a later exam: its page, retrying measures, the recall of the pregnancy, the curves."""
 
+import json
 import subprocess
 
 import pytest
-from port import PortError
+from port import Port, PortError
 
 # 140 days after the start: week 22.
 EXAM = {
@@ -295,6 +296,38 @@ def test_the_curves_follow_the_calculator(port):
     port.click("Form13.Command1")
     assert "Form13" not in port.shown()
     assert "Form12" in port.shown()
+
+
+@pytest.fixture
+def small_screen(tmp_path):
+    """A program on a screen of 1366 by 768 pixels."""
+    screen = {"name": "small", "x": 0, "y": 0, "width": 1366, "height": 768, "logicalDpi": 96, "logicalBaseDpi": 96}
+    config = tmp_path / "screens.json"
+    config.write_text(json.dumps({"screens": [screen | {"dpr": 1}]}), encoding="utf-8")
+    driven = Port(tmp_path, platform=f"offscreen:configfile={config}")
+    yield driven
+    assert driven.end() == 0
+
+
+def test_the_curves_come_up_in_the_middle_of_the_screen(small_screen):
+    biometry(small_screen)
+    small_screen.click("Form12.Courbe")
+    form = next(form for form in small_screen.forms()["forms"] if form["name"] == "Form13")
+    assert form["width"] < 1366 and form["height"] < 768
+    # What is told of a window lies inside its frame, two pixels wide on this platform.
+    assert form["left"] == pytest.approx((1366 - form["width"]) / 2, abs=2)
+    assert form["top"] == pytest.approx((768 - form["height"]) / 2, abs=2)
+
+
+def test_a_start_with_a_quotation_mark_is_an_error_of_the_recall(port):
+    biometry(port, {**EXAM, "DGUS": "01/01/20'02"})
+    port.click("Form12.Rappel")
+    assert [box["kind"] for box in port.boxes] == ["error"]
+    assert port.items("Form12.ListDate") == []
+    assert not port.get("Form12.PtBip(0)")["visible"]
+    port.click("Form12.Quitter")
+    assert port.boxes == []
+    assert port.text("Form10.LblNumEcho") == "1"
 
 
 def printed(pdf):
