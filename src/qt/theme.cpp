@@ -78,7 +78,6 @@ QPalette paletteOf(QColor window, QColor base, QColor text, QColor accent) {
     for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
         palette.setColor(QPalette::Disabled, role, faint);
     }
-    palette.setColor(QPalette::PlaceholderText, faint);
     palette.setColor(QPalette::ToolTipBase, base);
     palette.setColor(QPalette::Highlight, accent);
     palette.setColor(QPalette::Link, accent);
@@ -99,7 +98,7 @@ QPalette darkPalette() {
     return palette;
 }
 
-QPalette wantedPalette() {
+QPalette basePalette() {
     const QByteArray wanted = qgetenv("VERANOX_PALETTE");
     if (wanted == "claire") {
         return lightPalette();
@@ -113,6 +112,14 @@ QPalette wantedPalette() {
     for (const auto role : {QPalette::Highlight, QPalette::HighlightedText, QPalette::Link}) {
         palette.setColor(role, own.color(role));
     }
+    return palette;
+}
+
+// Captions and hints stand back, and are still read by weak eyes.
+QPalette wantedPalette() {
+    QPalette palette = basePalette();
+    palette.setColor(QPalette::PlaceholderText,
+                     mixed(palette.color(QPalette::Text), palette.color(QPalette::Base), 0.3));
     return palette;
 }
 
