@@ -23,7 +23,7 @@ struct Style {
     bool numbersInside;  // the axis has no room on its left
 };
 
-constexpr Style kPageStyle{42, 4, 130, 190, true};
+constexpr Style kPageStyle{42, 4, 155, 190, true};
 constexpr Style kLargeStyle{42, 2, 170, 0, false};
 constexpr int kLastWeekOfCerebellum = 38;
 
@@ -137,6 +137,47 @@ void drawWeeks(QPainter& painter, Chart chart, const Ink& ink) {
     painter.drawText(unit, Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("S.A."));
 }
 
+// The value of a curve between two weeks.
+std::optional<double> valueAt(const std::vector<CurvePoint>& curve, double week) {
+    for (std::size_t i = 0; i + 1 < curve.size(); ++i) {
+        if (week >= curve[i].week && week <= curve[i + 1].week) {
+            const double part = (week - curve[i].week) / (curve[i + 1].week - curve[i].week);
+            return std::lerp(curve[i].millimetres, curve[i + 1].millimetres, part);
+        }
+    }
+    return std::nullopt;
+}
+
+double weekAt(Chart chart, double x) {
+    const double origin = spot(chart, 0, 0).x();
+    return (x - origin) / (spot(chart, 1, 0).x() - origin);
+}
+
+bool isStruckByACurve(Chart chart, const QRectF& box) {
+    constexpr int kSteps = 6;
+    const Measure measure = geometry(chart).measure;
+    for (const double percentile : percentilesOf(measure)) {
+        for (int i = 0; i <= kSteps; ++i) {
+            const double week = weekAt(chart, box.left() + box.width() * i / kSteps);
+            const auto value = valueAt(smoothCurve(measure, percentile), week);
+            if (value && std::abs(spot(chart, 0, *value).y() - box.center().y()) < box.height() / 2) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+// A number inside the chart goes along its line until no curve passes through it or close by.
+QRectF clearOfCurves(Chart chart, QRectF box) {
+    constexpr double kStep = 20;
+    constexpr double kGap = 15;
+    while (isStruckByACurve(chart, box.adjusted(-kGap, -kGap, kGap, kGap)) && box.right() < plot(chart).right()) {
+        box.translate(kStep, 0);
+    }
+    return box;
+}
+
 void drawValues(QPainter& painter, Chart chart, const Ink& ink) {
     const Style style = styleOf(chart);
     const double axis = plot(chart).left();
@@ -146,8 +187,9 @@ void drawValues(QPainter& painter, Chart chart, const Ink& ink) {
         const QString text = last ? QStringLiteral("%1 mm").arg(mm) : QString::number(mm);
         const double width = QFontMetricsF(painter.font()).horizontalAdvance(text);
         const double left = style.numbersInside ? axis + gap : axis - gap - width;
-        const QRectF box(left, spot(chart, 0, mm).y() - style.textSize * 0.6, width, style.textSize * 1.2);
+        QRectF box(left, spot(chart, 0, mm).y() - style.textSize * 0.6, width, style.textSize * 1.2);
         if (style.numbersInside) {
+            box = clearOfCurves(chart, box);
             painter.fillRect(box, ink.ground);
         }
         painter.setPen(ink.text);
@@ -235,17 +277,6 @@ void drawTitle(QPainter& painter, Chart chart, const Ink& ink) {
     }
 }
 
-// The value of a curve between two weeks.
-std::optional<double> valueAt(const std::vector<CurvePoint>& curve, double week) {
-    for (std::size_t i = 0; i + 1 < curve.size(); ++i) {
-        if (week >= curve[i].week && week <= curve[i + 1].week) {
-            const double part = (week - curve[i].week) / (curve[i + 1].week - curve[i].week);
-            return std::lerp(curve[i].millimetres, curve[i + 1].millimetres, part);
-        }
-    }
-    return std::nullopt;
-}
-
 std::optional<double> referenceAt(Measure measure, double percentile, int week) {
     const std::vector<CurvePoint> curve = percentileCurve(measure, percentile);
     const auto at = std::ranges::find(curve, week, &CurvePoint::week);
@@ -277,8 +308,9 @@ QRectF plot(Chart chart) {
 QRectF drawing(Chart chart) {
     const Style style = styleOf(chart);
     const double left = style.numbersInside ? 0.5 * style.textSize : 5.0 * style.textSize;
-    const double right = style.numbersInside ? 0.5 * style.textSize : 3.0 * style.textSize;
-    return plot(chart).adjusted(-left, -1.6 * style.titleSize - style.textSize, right, 2.8 * style.textSize);
+    const double right = style.numbersInside ? 0.7 * style.textSize : 3.0 * style.textSize;
+    const double above = std::max(1.6 * style.titleSize, 1.0 * style.textSize);
+    return plot(chart).adjusted(-left, -above, right, 2.8 * style.textSize);
 }
 
 void paintChart(QPainter& painter, Chart chart, const Ink& ink) {
@@ -316,8 +348,7 @@ void paintCross(QPainter& painter, Point at, QColor colour) {
 
 std::optional<OnCurve> curveAt(Chart chart, QPointF place, double reach) {
     const Measure measure = geometry(chart).measure;
-    const QPointF origin = spot(chart, 0, 0);
-    const double week = (place.x() - origin.x()) / (spot(chart, 1, 0).x() - origin.x());
+    const double week = weekAt(chart, place.x());
     std::optional<OnCurve> nearest;
     for (const double percentile : percentilesOf(measure)) {
         const auto value = valueAt(smoothCurve(measure, percentile), week);

@@ -10,7 +10,7 @@ namespace biometry {
 namespace {
 
 constexpr double kTwipsPerInch = 1440;
-constexpr double kPageWidth = 11906;  // of the window's page, whose charts reach 11780
+constexpr double kPageWidth = 12000;  // of the window's page, whose charts reach 11930
 constexpr double kPageHeight = 16838;
 constexpr double kLeastEdge = 360;  // of the paper, in twips
 

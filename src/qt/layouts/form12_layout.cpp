@@ -24,7 +24,7 @@ using biometry::measureName;
 using theme::kGrid;
 
 // The part of the page on which the charts lie, in twips.
-const QRectF kCharts(0, 3850, 11906, 5250);
+const QRectF kCharts(0, 3850, 12000, 5250);
 
 constexpr int kScrollWidth = 110;
 constexpr int kPanelWidth = 490;
