@@ -16,12 +16,14 @@ constexpr double kLeastEdge = 360;  // of the paper, in twips
 
 constexpr int kTextSize = 200;
 constexpr int kLine = 280;
+constexpr int kMeasureSize = 180;
 constexpr int kLeft = 138;
 constexpr int kColumn = 3950;
 constexpr int kValues = 3100;  // from the left of a column, behind the longest name
+constexpr int kMeasureValues = 2850;
 constexpr int kTablesTop = 9400;
 constexpr int kFurtherTop = 1500;               // of the recall on the sheets behind the first
-constexpr int kRetriedHeight = 27 * kLine / 2;  // thirteen lines and the gap under them
+constexpr int kRetriedHeight = 29 * kLine / 2;  // fourteen lines and the gap under them
 constexpr int kRecallHeadLines = 2;
 
 /// Draws texts line under line, in columns, in twips.
@@ -72,8 +74,9 @@ void drawMeasures(QPainter& painter, const Page& page) {
         const Measure measure = kPageOrder[i];
         const auto place = static_cast<int>(i);
         Lines lines(painter, kLeft + kColumn * (place / kPerColumn), 1500 + 2 * kLine * (place % kPerColumn));
-        lines.cells({{0, measureName(measure)}, {kValues, millimetres(page.measure(measure))}}, true);
-        lines.write(page.percentile(measure));
+        lines.cells({{0, measureName(measure)}, {kMeasureValues, millimetres(page.measure(measure))}}, true,
+                    kMeasureSize);
+        lines.write(page.percentile(measure), false, kMeasureSize);
     }
 }
 
@@ -99,6 +102,10 @@ void drawRetried(Lines& lines, const Retried& retried) {
     lines.cells({{0, QStringLiteral("Début de Grossesse ") + retried.start},
                  {kColumn, QStringLiteral("Date de l'écho ") + retried.day},
                  {2 * kColumn, QStringLiteral("S.A. ") + retried.week}});
+    lines.cells({{kValues, QStringLiteral("Mesure")},
+                 {kColumn, QStringLiteral("50 ème")},
+                 {kColumn + 1000, QStringLiteral("Percentile")}},
+                true);
     for (const Measure measure : kPageOrder) {
         const std::size_t i = indexOf(measure);
         const QString median = i < kClassifiedCount ? millimetres(retried.medians[i]) : QString();

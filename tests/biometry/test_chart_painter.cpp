@@ -285,16 +285,19 @@ Sheet sheetRecalling(std::size_t exams) {
     return sheet;
 }
 
-/// What of a printed page bears ink, at ten twips a pixel and with no edge that can't be printed.
-QRectF inkOf(const Sheet& sheet, std::size_t number) {
+/// A printed page at ten twips a pixel, with no edge that can't be printed.
+QImage printed(const Sheet& sheet, std::size_t number) {
     constexpr int kDpi = 144;
     const ports::PageGeometry paper{.width = 11906, .height = 16838, .dpiX = kDpi, .dpiY = kDpi};
     QImage image(1191, 1684, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
     paintSheet(painter, paper, sheet, number);
-    painter.end();
-    return inked(image, 1);
+    return image;
+}
+
+QRectF inkOf(const Sheet& sheet, std::size_t number) {
+    return inked(printed(sheet, number), 1);
 }
 
 TEST(PrintedPage, TakesOneSheetAsLongAsTheRecallHasRoom) {
@@ -308,7 +311,7 @@ TEST(PrintedPage, TakesOneSheetAsLongAsTheRecallHasRoom) {
 }
 
 TEST(PrintedPage, HasLessRoomForTheRecallUnderTheCalculator) {
-    Sheet sheet = sheetRecalling(11);
+    Sheet sheet = sheetRecalling(10);
     sheet.retried = Retried();
     EXPECT_EQ(sheetCount(sheet), 1U);
     sheet.recalled->push_back({});
@@ -326,6 +329,20 @@ TEST(PrintedPage, EndsAboveTheEdgeHoweverLongTheRecall) {
     EXPECT_LT(inkOf(sheet, 1).bottom(), kLast);
     EXPECT_GT(inkOf(sheet, 1).bottom(), kLast - 80);
     EXPECT_LT(inkOf(sheet, 2).bottom(), 300);
+}
+
+TEST(PrintedPage, KeepsTheColumnsOfTheMeasuresApart) {
+    const QImage image = printed(sheetRecalling(0), 0);
+    // The measures stand from 1500 to 3180 twips, their columns begin at 138 and 3950 further; the page has 12000 twips
+    // on the 11186 between its edges of 360.
+    const auto pixel = [](double twips) { return static_cast<int>(36 + twips * 0.9321666 / 10); };
+    int inked = 0;
+    for (int y = pixel(1500); y < pixel(3180); ++y) {
+        for (int x = pixel(3650); x < pixel(4060); ++x) {
+            inked += image.pixelColor(x, y) != Qt::white;
+        }
+    }
+    EXPECT_EQ(inked, 0);
 }
 
 }  // namespace

@@ -353,6 +353,8 @@ def test_the_page_is_printed_as_it_stands(port, tmp_path):
     port.click("Form12.Imprime")
     text = printed(pdf)
     assert "> 97 ème Percentile" in text
+    assert any(line.split() == ["Mesure", "50", "ème", "Percentile"] for line in text.splitlines())
+    assert any(line.split()[2:] == ["60", "mm", "53", "mm", ">", "97", "ème", "Percentile"] for line in text.splitlines())
     assert "Rappel" in text
     assert text.count("\f") == 1
 
