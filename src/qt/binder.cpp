@@ -388,6 +388,13 @@ QPushButton* Binder::button(forms::Button& control) {
     sync(Aspect::Text, -1);
     QObject::connect(button, &QPushButton::clicked, &window_,
                      [this_ = &window_, &control] { this_->act([&control] { control.click(); }); });
+    // Enter presses the button that has the focus, as Space does.
+    new PressFilter(button, [button](const QKeyEvent& event) {
+        if (isEnter(event)) {
+            button->click();
+        }
+        return isEnter(event);
+    });
     return button;
 }
 

@@ -4,6 +4,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QWheelEvent>
 #include <utility>
 
@@ -101,15 +102,37 @@ bool isEnter(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
+namespace {
+
+bool takesTab(const QWidget* widget) {
+    return widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) &&
+           !widget->focusProxy();
+}
+
+/// The next field behind this one, buttons passed over; null if there is none before the walk starts again.
+QWidget* fieldBehind(QWidget* field) {
+    QWidget* next = field->nextInFocusChain();
+    while (!next->isWindow() && !(takesTab(next) && !qobject_cast<QPushButton*>(next))) {
+        next = next->nextInFocusChain();
+    }
+    return next->isWindow() ? nullptr : next;
+}
+
+}  // namespace
+
 void walkOnAtEnter(QWidget* field) {
     const bool severalLines = qobject_cast<QPlainTextEdit*>(field) != nullptr;
     new PressFilter(field, [field, severalLines](const QKeyEvent& event) {
         const bool withControl = event.modifiers() & Qt::ControlModifier;
-        if (!isEnter(event) || withControl != severalLines) {
+        if (!isEnter(event) || (severalLines && !withControl)) {
             return false;
         }
-        QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
-        QCoreApplication::sendEvent(field, &tab);
+        if (QWidget* next = fieldBehind(field)) {
+            next->setFocus(Qt::TabFocusReason);
+        } else {
+            QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+            QCoreApplication::sendEvent(field, &tab);
+        }
         return true;
     });
 }

@@ -53,7 +53,8 @@ private:
 
 bool isEnter(const QKeyEvent& event);
 
-/// Enter walks out of a field of one line as Tab does, Ctrl+Enter out of one of several lines.
+/// Enter or Ctrl+Enter walks out of a field of one line to the next field, past the buttons; Ctrl+Enter out of one of
+/// several lines. Behind the last field it goes where Tab goes.
 void walkOnAtEnter(QWidget* field);
 
 /// A combo box that the mouse wheel passes over without changing it.

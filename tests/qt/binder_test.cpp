@@ -518,7 +518,8 @@ TEST_F(BinderTest, AButtonClicksByMouseAndKeyboard) {
     form_->Command1.onClick = [&] { ++clicks; };
     QTest::mouseClick(button_, Qt::LeftButton);
     QTest::keyClick(button_, Qt::Key_Space);
-    EXPECT_EQ(clicks, 2);
+    QTest::keyClick(button_, Qt::Key_Return);
+    EXPECT_EQ(clicks, 3);
 }
 
 TEST_F(BinderTest, OptionsOfOneFrameExcludeEachOther) {

@@ -76,6 +76,20 @@ TEST_F(OfferPanelWidgets, TypingGoesOnBehindAPhrase) {
     EXPECT_EQ(form_.Txt(1).text(), "Docteur Un");
 }
 
+TEST_F(OfferPanelWidgets, AKeyTakesOneOfTheFirstPhrases) {
+    world_.addPhrase(1, "Docteur", "A");
+    world_.addPhrase(1, "Un", "C");
+    fields_[1]->setFocus();
+    QTest::keyClick(fields_[1], Qt::Key_1, Qt::ControlModifier);
+    EXPECT_EQ(fields_[1]->text(), "Docteur ");
+    EXPECT_EQ(focused(), fields_[1]);
+    QTest::keyClick(fields_[1], Qt::Key_3, Qt::ControlModifier);
+    EXPECT_EQ(fields_[1]->text(), "Docteur ");
+    QTest::keyClick(fields_[1], Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(fields_[1]->text(), "Docteur Un");
+    EXPECT_EQ(focused(), fields_[2]);
+}
+
 TEST_F(OfferPanelWidgets, AnExamIsFilledByKeyboard) {
     world_.addPhrase(1, "Docteur", "A");
     world_.addPhrase(1, "Un", "C");

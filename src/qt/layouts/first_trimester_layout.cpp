@@ -2,6 +2,7 @@
 #include <QLineEdit>
 #include <set>
 
+#include "qt/key_filter.h"
 #include "qt/layouts/exam_layouts.h"
 #include "qt/layouts/obstetric_sheet_layout.h"
 #include "qt/layouts/parts.h"
@@ -88,7 +89,9 @@ private:
         putField(2, 2, 4);
         putField(3, 0, 5);
         if (circumference) {
-            put(3, 2, QStringLiteral("C.A. (mm)"), bind().line(*circumference, QStringLiteral("C.A. (mm)")));
+            QLineEdit* edit = bind().line(*circumference, QStringLiteral("C.A. (mm)"));
+            walkOnAtEnter(edit);
+            put(3, 2, QStringLiteral("C.A. (mm)"), edit);
         }
         putField(4, 0, 6, 3);
         putField(5, 0, 7, 3);

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
+#include <QShortcut>
 
 #include "qt/calendar_view.h"
 #include "qt/layouts/parts.h"
@@ -13,6 +14,7 @@ namespace qt {
 namespace {
 
 constexpr int kPanelWidth = 344;
+constexpr int kLinesWithKeys = 9;
 
 /// Shows and hides a caption with its field.
 class CaptionFollower final : public QObject {
@@ -44,6 +46,19 @@ QListView* addList(QBoxLayout* column, const QString& caption, QListView* list, 
     return list;
 }
 
+/// Ctrl+1 to Ctrl+9 take the first lines of a list, wherever the focus is.
+void addLineKeys(QListView* list) {
+    for (int line = 0; line < kLinesWithKeys; ++line) {
+        auto* key =
+            new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + line)), list->parentWidget());
+        QObject::connect(key, &QShortcut::activated, list, [list, line] {
+            if (const QModelIndex at = list->model()->index(line, 0); at.isValid()) {
+                list->doubleClicked(at);
+            }
+        });
+    }
+}
+
 QBoxLayout* freeEntry(Binder& bind, forms::TextBox& box, const QString& caption) {
     auto* entry = bind.line(box, caption);
     entry->setToolTip(QStringLiteral("Entrée ajoute ce texte au champ"));
@@ -59,9 +74,10 @@ QWidget* newOfferPanel(Binder& bind, const responses::PanelControls& controls, f
     auto* panel = new QWidget;
     panel->setFixedWidth(kPanelWidth);
     auto* column = newColumn(panel);
-    addList(column, QStringLiteral("&Liste des réponses"),
-            bind.list(controls.List1, QStringLiteral("Réponses mémorisées")),
-            QStringLiteral("Double-cliquez sur une réponse, ou Entrée, pour l'ajouter au champ ; Echap y revient"));
+    QListView* phrases = addList(
+        column, QStringLiteral("&Liste des réponses"), bind.list(controls.List1, QStringLiteral("Réponses mémorisées")),
+        QStringLiteral("Double-cliquez sur une réponse, ou Entrée, pour l'ajouter au champ ; Echap y revient. "
+                       "Ctrl+1 à Ctrl+9 : une des premières réponses"));
     addList(column, QStringLiteral("&Nombres"), bind.list(controls.List2, QStringLiteral("Nombres proposés")),
             QStringLiteral("Double-cliquez sur un nombre, ou Entrée, pour l'ajouter au champ ; Echap y revient"));
     column->addWidget(bind.calendar(controls.Calendar1, QStringLiteral("Calendrier")));
@@ -72,6 +88,7 @@ QWidget* newOfferPanel(Binder& bind, const responses::PanelControls& controls, f
     }
     row->addWidget(bind.button(controls.CmdEfface));
     column->addLayout(row);
+    addLineKeys(phrases);
     return panel;
 }
 
