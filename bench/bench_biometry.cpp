@@ -1,12 +1,8 @@
 #include <benchmark/benchmark.h>
 
-#include <QGuiApplication>
-#include <QImage>
-#include <QPainter>
 #include <QString>
 #include <array>
 
-#include "biometry/chart_painter.h"
 #include "biometry/charts.h"
 #include "biometry/curves.h"
 #include "biometry/form12.h"
@@ -15,6 +11,7 @@
 #include "biometry/percentiles.h"
 #include "biometry/sample_exam.h"
 #include "fakes/practice_files.h"
+#include "side_by_side.h"
 
 namespace {
 
@@ -36,7 +33,6 @@ void classifyAll(std::array<PercentileLabel, kClassifiedCount>& labels, const QS
     }
 }
 
-// Target: under 5 microseconds.
 void classifyEightMeasuresAndChangeTheWeek(benchmark::State& state) {
     const QString week = QString::number(state.range(0));
     std::array<PercentileLabel, kClassifiedCount> labels;
@@ -48,7 +44,6 @@ void classifyEightMeasuresAndChangeTheWeek(benchmark::State& state) {
         benchmark::DoNotOptimize(&labels);
     }
 }
-BENCHMARK(classifyEightMeasuresAndChangeTheWeek)->Arg(13)->Arg(22)->Arg(40);
 
 void classifyEightMeasures(benchmark::State& state) {
     const QString week = QString::number(state.range(0));
@@ -58,9 +53,7 @@ void classifyEightMeasures(benchmark::State& state) {
         benchmark::DoNotOptimize(&labels);
     }
 }
-BENCHMARK(classifyEightMeasures)->Arg(22);
 
-// Target: under 10 microseconds.
 void curveOf29WeeksOnItsChart(benchmark::State& state) {
     for (auto _ : state) {
         std::array<Point, 29> places;
@@ -72,10 +65,9 @@ void curveOf29WeeksOnItsChart(benchmark::State& state) {
         benchmark::DoNotOptimize(count);
     }
 }
-BENCHMARK(curveOf29WeeksOnItsChart);
 
-// The window on an exam of 22 weeks; what it is made of stands below it. Leaving it, which reads the base of the exams,
-// is not timed.
+// The window on an exam of 22 weeks, beside what it is made of: its controls and its page. Leaving it, which reads the
+// base of the exams, is not timed.
 class Windows {
 public:
     Windows() {
@@ -106,73 +98,24 @@ void loadOfTheBiometryWindow(benchmark::State& state) {
         state.ResumeTiming();
     }
 }
-BENCHMARK(loadOfTheBiometryWindow);
 
-void itsControlsAlone(benchmark::State& state) {
+void partsOfTheBiometryWindow(benchmark::State& state) {
     Windows windows;
-    for (auto _ : state) {
-        const auto form = windows.make();
-        benchmark::DoNotOptimize(form.get());
-    }
-}
-BENCHMARK(itsControlsAlone);
-
-void itsPageAlone(benchmark::State& state) {
     const Exam exam = sampleExam();
     for (auto _ : state) {
+        const auto form = windows.make();
         const Page made = page(exam, 0, QDate(2002, 6, 14));
+        benchmark::DoNotOptimize(form.get());
         benchmark::DoNotOptimize(&made);
     }
 }
-BENCHMARK(itsPageAlone);
-
-constexpr QSize k4K(3840, 2160);
-
-template <class Draw>
-void on4K(benchmark::State& state, const QRectF& twips, Draw draw) {
-    QImage screen(k4K, QImage::Format_ARGB32_Premultiplied);
-    const double scale = std::min(k4K.width() / twips.width(), k4K.height() / twips.height());
-    for (auto _ : state) {
-        screen.fill(Qt::white);
-        QPainter painter(&screen);
-        painter.scale(scale, scale);
-        painter.translate(-twips.topLeft());
-        draw(painter);
-        painter.end();
-        benchmark::DoNotOptimize(screen.constBits());
-    }
-}
-
-// Target: under 8 ms, one frame of a screen of 120 Hz.
-void largeChartWithItsCrossOn4K(benchmark::State& state) {
-    on4K(state, drawing(Chart::Bip), [](QPainter& painter) {
-        paintChart(painter, Chart::Bip, paperInk());
-        paintCross(painter, point(Chart::Bip, 22, 53), Qt::red);
-    });
-}
-BENCHMARK(largeChartWithItsCrossOn4K)->Unit(benchmark::kMillisecond);
-
-// Target: under 8 ms.
-void pageChartWithItsPointsOn4K(benchmark::State& state) {
-    on4K(state, drawing(Chart::PageBip), [](QPainter& painter) {
-        paintChart(painter, Chart::PageBip, paperInk());
-        for (int week = 16; week <= 22; ++week) {
-            paintMarker(painter, point(Chart::PageBip, week, 2.5 * week), Qt::red, Qt::white);
-        }
-    });
-}
-BENCHMARK(pageChartWithItsPointsOn4K)->Unit(benchmark::kMillisecond);
-
-void bareFillOf4K(benchmark::State& state) {
-    on4K(state, drawing(Chart::Bip), [](QPainter&) {});
-}
-BENCHMARK(bareFillOf4K)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
 int main(int count, char** arguments) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(count, arguments);
-    benchmark::Initialize(&count, arguments);
-    benchmark::RunSpecifiedBenchmarks();
+    side_by_side::within("eight percentiles", classifyEightMeasures, 0.005, {22});
+    side_by_side::within("eight percentiles, new week", classifyEightMeasuresAndChangeTheWeek, 0.005, {13, 22, 40});
+    side_by_side::within("curve of 29 weeks", curveOf29WeeksOnItsChart, 0.01);
+    side_by_side::pair("Form12 loaded, its parts", loadOfTheBiometryWindow, partsOfTheBiometryWindow, std::nullopt);
+    return side_by_side::run(count, arguments);
 }

@@ -1,7 +1,6 @@
 // A report from its values to a PDF file, beside an office suite that turns the same text into one; and typing in a
 // long one. The office suite is not one of this project's packages: where it isn't installed
 // (apt install libreoffice-writer-nogui) its lines say so.
-#include <benchmark/benchmark.h>
 #include <sys/resource.h>
 
 #include <QApplication>
@@ -22,6 +21,7 @@
 #include "reports/later_trimesters.h"
 #include "reports/twips.h"
 #include "reports/wisiwi.h"
+#include "side_by_side.h"
 
 namespace {
 
@@ -88,9 +88,8 @@ void composing(benchmark::State& state) {
         benchmark::DoNotOptimize(CptRendu1T(exam, Detail::Full, std::nullopt));
     }
 }
-BENCHMARK(composing)->Unit(benchmark::kMillisecond);
 
-// Triplets with every value filled. A millisecond is what it may take.
+// Triplets with every value filled.
 void composingLaterTriplets(benchmark::State& state) {
     LaterExam exam;
     exam.TxtNbrE = QStringLiteral("3");
@@ -119,7 +118,6 @@ void composingLaterTriplets(benchmark::State& state) {
         benchmark::DoNotOptimize(CptRendu2T(exam, Detail::Full, QString()));
     }
 }
-BENCHMARK(composingLaterTriplets)->Unit(benchmark::kMillisecond);
 
 void typingTheReportAndLayingItOut(benchmark::State& state) {
     const Report report = longReport();
@@ -130,7 +128,6 @@ void typingTheReportAndLayingItOut(benchmark::State& state) {
         layOut(window.Box);
     }
 }
-BENCHMARK(typingTheReportAndLayingItOut)->Unit(benchmark::kMillisecond);
 
 void threePagesFromValuesToPdf(benchmark::State& state) {
     const QTemporaryDir folder;
@@ -143,7 +140,6 @@ void threePagesFromValuesToPdf(benchmark::State& state) {
         PrintRTF(window.Box, *printers.standard(), QStringLiteral("Essai"), kPaperMargins);
     }
 }
-BENCHMARK(threePagesFromValuesToPdf)->Unit(benchmark::kMillisecond);
 
 /// The same operations as rich text codes, for a program that reads those.
 struct RtfWriter {
@@ -185,12 +181,7 @@ class Office {
 public:
     bool isThere() const { return !program_.isEmpty(); }
 
-    /// Seconds that one run takes for so many files: by the clock, and of the processor's time.
-    struct Cost {
-        double clock;
-        double processor;
-    };
-    Cost convert(int files) {
+    void convert(int files) {
         QStringList arguments{
             QStringLiteral("--headless"),
             QStringLiteral("-env:UserInstallation=file://") + folder_.filePath(QStringLiteral("user")),
@@ -201,25 +192,10 @@ public:
         for (int i = 0; i < files; ++i) {
             arguments << write(i);
         }
-        const double before = processorOfChildren();
-        QElapsedTimer timer;
-        timer.start();
-        QProcess office;
-        office.start(program_, arguments);
-        office.waitForFinished(-1);
-        return {static_cast<double>(timer.nsecsElapsed()) / 1e9, processorOfChildren() - before};
+        QProcess::execute(program_, arguments);
     }
 
 private:
-    static double processorOfChildren() {
-        rusage used{};
-        getrusage(RUSAGE_CHILDREN, &used);
-        const auto seconds = [](const timeval& time) {
-            return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
-        };
-        return seconds(used.ru_utime) + seconds(used.ru_stime);
-    }
-
     QString write(int number) const {
         QFile file(folder_.filePath(QStringLiteral("%1.rtf").arg(number)));
         if (file.open(QIODevice::WriteOnly)) {
@@ -232,9 +208,9 @@ private:
     QString program_ = QStandardPaths::findExecutable(QStringLiteral("soffice"));
 };
 
-// What one file more costs in one run, and what a run costs besides.
-void officeSuite(benchmark::State& state, bool startUp) {
-    constexpr int kMany = 21;
+// What one file more costs in one run, without the start of the suite.
+void officeSuite(benchmark::State& state) {
+    constexpr int kMany = 11;
     Office office;
     if (!office.isThere()) {
         state.SkipWithError("no soffice here: apt install libreoffice-writer-nogui");
@@ -242,16 +218,15 @@ void officeSuite(benchmark::State& state, bool startUp) {
     }
     office.convert(1);
     for (auto _ : state) {
-        const Office::Cost one = office.convert(1);
-        const Office::Cost many = office.convert(kMany);
-        const double each = (many.clock - one.clock) / (kMany - 1);
-        const double processor = (many.processor - one.processor) / (kMany - 1);
-        state.SetIterationTime(startUp ? one.clock - each : each);
-        state.counters["processor_ms"] = 1000 * (startUp ? one.processor - processor : processor);
+        QElapsedTimer timer;
+        timer.start();
+        office.convert(1);
+        const qint64 one = timer.nsecsElapsed();
+        office.convert(kMany);
+        const qint64 many = timer.nsecsElapsed() - one;
+        state.SetIterationTime(static_cast<double>(many - one) / 1e9 / (kMany - 1));
     }
 }
-BENCHMARK_CAPTURE(officeSuite, threePagesToPdf, false)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(officeSuite, startUp, true)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
 
 // One key in a text of twenty pages, until it is seen: at its start, in its middle, at its end.
 void oneKeyInTwentyPages(benchmark::State& state) {
@@ -281,14 +256,16 @@ void oneKeyInTwentyPages(benchmark::State& state) {
     state.counters["pages"] = view.edit().document()->size().height() / (16838 - 2 * 1440);
     view.release();
 }
-BENCHMARK(oneKeyInTwentyPages)->Arg(0)->Arg(50)->Arg(100)->Iterations(300)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    side_by_side::within("text of triplets, 1st trim.", composing, 1);
+    side_by_side::within("text of triplets, later", composingLaterTriplets, 1);
+    side_by_side::alone("report typed and laid out", typingTheReportAndLayingItOut);
+    side_by_side::pairByHand("3 pages to PDF, office suite", threePagesFromValuesToPdf, officeSuite, 0.1);
+    side_by_side::within("key in 20 pages, at %", oneKeyInTwentyPages, 2, {0, 50, 100});
+    return side_by_side::run(argc, argv);
 }

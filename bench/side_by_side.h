@@ -6,7 +6,9 @@
 #include <string>
 #include <vector>
 
-/// Times things beside what they are compared with, in one run, and prints their medians and the ratio.
+/// Times things beside what they are compared with, in one run. tools/bench_table.py makes the table of it: two
+/// benchmarks whose names differ in `.ours` and `.bare` make one line, and a counter `ratio_at_most`, `ms_at_most` or
+/// `MB_at_most` is a target.
 namespace side_by_side {
 
 using Function = void (*)(benchmark::State&);
@@ -15,10 +17,16 @@ using Function = void (*)(benchmark::State&);
 void pair(const std::string& name, Function ours, Function bare, std::optional<double> atMost,
           const std::vector<int>& sizes = {});
 
-/// Sets one thing beside a time that it must not take: `milliseconds`.
-void within(const std::string& name, Function ours, double milliseconds);
+/// The same where the yardstick tells its time itself (`SetIterationTime`) and takes long.
+void pairByHand(const std::string& name, Function ours, Function bare, std::optional<double> atMost);
 
-/// Runs all pairs, each side several times and mixed with the others, and prints the table. Takes the usual arguments.
+/// Sets one thing beside a time of the processor that it must not take, in milliseconds; for each of these sizes.
+void within(const std::string& name, Function ours, double milliseconds, const std::vector<int>& sizes = {});
+
+/// A thing that is timed for comparison alone.
+void alone(const std::string& name, Function function);
+
+/// Runs them all, each side several times and mixed with the others. Takes the usual arguments.
 int run(int count, char** arguments);
 
 }  // namespace side_by_side

@@ -32,6 +32,7 @@ biometry::Ink screenInk(const QPalette& palette) {
 ChartView::ChartView(FormWindow& window, const QRectF& part) : window_(window), part_(part) {
     setMinimumSize((part.size() / kTwipsPerPixel * 0.6).toSize());
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setAttribute(Qt::WA_OpaquePaintEvent);
     window.atRetirement([this] {
         charts_.clear();
         markers_.clear();
@@ -54,10 +55,7 @@ void ChartView::addChart(biometry::Chart chart, forms::Image& picture) {
     QWidget* twin = bare(biometry::measureName(biometry::geometry(chart).measure));
     charts_.push_back({chart, &picture, twin});
     window_.bind(picture, twin, [](forms::Aspect, int) {});
-    window_.alsoBind(picture, [this](forms::Aspect, int) {
-        drawn_ = {};
-        update();
-    });
+    window_.alsoBind(picture, [this, chart](forms::Aspect, int) { update(covered(chart)); });
 }
 
 void ChartView::addMarker(forms::Marker& marker, const QString& name) {
@@ -101,6 +99,11 @@ QRect ChartView::inPixels(const QRectF& twips) const {
     return toPixels().mapRect(twips).toAlignedRect();
 }
 
+// The smooth edges of the drawing may reach a pixel further.
+QRect ChartView::covered(biometry::Chart chart) const {
+    return inPixels(biometry::drawing(chart)).adjusted(-1, -1, 1, 1);
+}
+
 void ChartView::place(const Follower& follower) const {
     const forms::Control& control = *follower.control;
     if (const auto place = control.place()) {
@@ -125,26 +128,24 @@ void ChartView::placeAll() {
 }
 
 void ChartView::resizeEvent(QResizeEvent*) {
-    drawn_ = {};
     placeAll();
 }
 
-void ChartView::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::PaletteChange) {
-        drawn_ = {};
-    }
-    QWidget::changeEvent(event);
-}
-
-// A marker that moves leaves the charts as they are.
-void ChartView::drawCharts() {
-    drawn_ = QPixmap(size() * devicePixelRatioF());
-    drawn_.setDevicePixelRatio(devicePixelRatioF());
-    drawn_.fill(Qt::transparent);
-    QPainter painter(&drawn_);
-    painter.setTransform(toPixels(), true);
+// Around the grids, which have a ground of their own: at 4K each fill of the whole view takes a third of a frame.
+void ChartView::fillAround(QPainter& painter, QRegion region) const {
     for (const ShownChart& shown : charts_) {
         if (shown.picture->visible()) {
+            region -= inPixels(biometry::plot(shown.chart)).adjusted(1, 1, -1, -1);
+        }
+    }
+    for (const QRect& part : region) {
+        painter.fillRect(part, palette().brush(backgroundRole()));
+    }
+}
+
+void ChartView::drawCharts(QPainter& painter, const QRect& part) const {
+    for (const ShownChart& shown : charts_) {
+        if (shown.picture->visible() && covered(shown.chart).intersects(part)) {
             paintChart(painter, shown.chart, screenInk(palette()));
         }
     }
@@ -166,13 +167,10 @@ void ChartView::drawMarkers(QPainter& painter) const {
 }
 
 void ChartView::paintEvent(QPaintEvent* event) {
-    if (drawn_.isNull() || drawn_.devicePixelRatio() != devicePixelRatioF()) {
-        drawCharts();
-    }
     QPainter painter(this);
-    const QRectF part = event->rect();
-    painter.drawPixmap(part, drawn_, QRectF(part.topLeft() * devicePixelRatioF(), part.size() * devicePixelRatioF()));
+    fillAround(painter, event->region());
     painter.setTransform(toPixels(), true);
+    drawCharts(painter, event->rect());
     drawMarkers(painter);
 }
 

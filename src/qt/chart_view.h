@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QPixmap>
+#include <QRegion>
 #include <QWidget>
 #include <functional>
 #include <vector>
@@ -38,7 +38,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     bool event(QEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     struct ShownChart {
@@ -54,10 +53,12 @@ private:
     double scale() const;
     QTransform toPixels() const;
     QRect inPixels(const QRectF& twips) const;
+    QRect covered(biometry::Chart chart) const;
     void placeAll();
     void place(const Follower& follower) const;
     QWidget* bare(const QString& name);
-    void drawCharts();
+    void fillAround(QPainter& painter, QRegion region) const;
+    void drawCharts(QPainter& painter, const QRect& part) const;
     void drawMarkers(QPainter& painter) const;
 
     FormWindow& window_;
@@ -65,8 +66,6 @@ private:
     std::vector<ShownChart> charts_;
     std::vector<const forms::Marker*> markers_;
     std::vector<Follower> followers_;
-    /// The charts without their markers, as last drawn; null when something else is to be seen.
-    QPixmap drawn_;
 };
 
 /// The colours of a chart on screen.
