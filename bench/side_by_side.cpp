@@ -38,6 +38,14 @@ void within(const std::string& name, Function ours, double milliseconds, const s
     setSizes(add(name, ours, "ms_at_most", milliseconds)->MeasureProcessCPUTime(), sizes);
 }
 
+void withinByTheClock(const std::string& name, Function ours, double milliseconds) {
+    add(name, ours, "ms_at_most", milliseconds)->UseRealTime();
+}
+
+void once(const std::string& name, Function function) {
+    add(name, function, {}, std::nullopt)->Iterations(1)->Repetitions(1);
+}
+
 void alone(const std::string& name, Function function) {
     add(name, function, {}, std::nullopt)->MeasureProcessCPUTime();
 }

@@ -5,8 +5,8 @@ Usage: bench_table.py FOLDER [NAME...]: the executables' folder, and the benchma
 the median of its repetitions stands. Prints the lines of a benchmark as it ends, and ends with 1 if a target is missed
 or something could not be measured.
 
-A target is a counter of the benchmark: `ratio_at_most` beside its yardstick, `ms_at_most` of the processor's time,
-`MB_at_most` of its counter `MB`.
+A target is a counter of the benchmark: `ratio_at_most` beside its yardstick, `ms_at_most` of the processor's time (of
+the clock's, if the benchmark says so), `MB_at_most` and `percent_at_most` of its counters `MB` and `percent`.
 """
 
 import json
@@ -73,7 +73,7 @@ def shown(value):
 class Table:
     """Prints its lines as they come and counts those that aren't met."""
 
-    FORM = "{:34} {:>12} {:>12} {:>7} {:>12}  {}"
+    FORM = "{:36} {:>12} {:>12} {:>7} {:>12}  {}"
 
     def __init__(self):
         self.missed = 0
@@ -87,7 +87,7 @@ class Table:
 
     def failure(self, name, message):
         self.unmeasured += 1
-        print(f"{name:34} not measured: {message}", flush=True)
+        print(f"{name:36} not measured: {message}", flush=True)
 
     def pair(self, name, ours, bare):
         ratio = milliseconds(ours) / milliseconds(bare)
@@ -96,14 +96,14 @@ class Table:
                   f"{most:g} times" if most else "", ratio <= most if most else None)
 
     def time(self, name, one):
-        figure = milliseconds(one, "cpu_time")
+        figure = milliseconds(one, "real_time" if "/real_time" in one["run_name"] else "cpu_time")
         most = one.get("ms_at_most")
         self.line(name, shown(figure) + " ms", target=f"{most:g} ms" if most else "",
                   met=figure <= most if most else None)
 
-    def memory(self, name, one):
-        most = one["MB_at_most"]
-        self.line(name, f"{one['MB']:.0f} MB", target=f"{most:g} MB", met=one["MB"] <= most)
+    def amount(self, name, one, unit):
+        figure, most = one[unit], one[unit + "_at_most"]
+        self.line(name, f"{figure:.0f} {unit}", target=f"{most:g} {unit}", met=figure <= most)
 
     def add(self, found):
         for name, one in found.items():
@@ -111,13 +111,15 @@ class Table:
                 self.failure(name, one["error_message"])
                 continue
             title = name.replace(".ours", "")
-            bare = found.get(name.replace(".ours", ".bare"))
+            bare = found.get(name.replace(".ours", ".bare"), {})
             if ".ours" in name and "error_message" not in bare:
                 self.pair(title, one, bare)
-            elif ".bare" not in name and "cpu_time" in one:
+            elif ".bare" not in name and "cpu_time" in one and "percent" not in one:
                 self.time(title, one)
             if "MB" in one:
-                self.memory("memory: " + title, one)
+                self.amount("memory: " + title, one, "MB")
+            if "percent" in one:
+                self.amount(title, one, "percent")
 
 
 def main():

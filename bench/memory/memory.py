@@ -18,7 +18,7 @@ sys.path.insert(0, str(ROOT / "tests" / "e2e"))
 from port import Port  # noqa: E402
 
 # The windows, and how much may be resident then in MB.
-STEPS = (("the main menu", 60), ("the dossier window", 80), ("a twin exam, its charts, its report", 130))
+STEPS = (("the main menu", 60), ("the dossier window", 80), ("twins, charts and report", 130))
 
 
 class Practice:
