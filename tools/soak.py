@@ -13,6 +13,7 @@ import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(ROOT / "tests" / "e2e"))
+from pictures import plain  # noqa: E402
 from port import Port  # noqa: E402
 
 # What may be added from the first days behind the warm-up to the last ones.
@@ -27,6 +28,7 @@ class Day:
         self.port = port
         port.practice(patients=True)
         port.printer(file=str(port.folder / "imprime.pdf"))
+        port.camera(image=plain(port.folder / "source.png", (90, 90, 90), 720, 576))
         port.start()
 
     def yes(self, *answers):
@@ -94,7 +96,27 @@ class Day:
         self.yes()
         self.port.click("Form11.CmdModifs")
         self.report("Form10.Command1")
+        self.biometry()
         self.delete("Form10.Supprim")
+
+    def biometry(self):
+        self.port.click("Form10.CmdBiometrie")
+        self.port.click("Form12.ReCalculer")
+        self.port.click("Form12.Rappel")
+        self.port.click("Form12.Courbe")
+        for button in ("Bip", "Cc", "Dat", "Ca", "Fem", "Lp", "Cerv"):
+            self.port.click(f"Form13.Command{button}")
+        self.port.click("Form12.Quitter")
+
+    def pictures(self):
+        self.port.click("Form1.Command5")
+        for _ in range(2):
+            self.port.click("Form19.Command4")
+        self.port.click("Form19.Option2")
+        for place in (1, 2):
+            self.port.click(f"Form19.Image2({place})")
+        self.port.click("Form19.Command2")
+        self.port.close(form="Form19")
 
     def gynaecology(self):
         self.port.type("Form4.Text1", text="rossignol")
@@ -122,6 +144,7 @@ class Day:
         self.later_trimesters()
         self.gynaecology()
         self.port.click("Form4.Menu")
+        self.pictures()
         self.album()
         self.backup()
 
