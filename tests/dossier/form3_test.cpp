@@ -71,7 +71,7 @@ TEST_F(ChangedSheet, ShowsNullsAsNothingAndBlanksAsBlanks) {
 
 TEST_F(ChangedSheet, SwitchesTheFeminineOptionOn) {
     EXPECT_TRUE(openSheet("DUPONT").sheet.TxtNom.text() == u"DUPONT");
-    world_.desk.peek<Form3>()->close();
+    world_.desk.act([this] { world_.desk.peek<Form3>()->close(); });
     world_.desk.at<Form4>().Text2.setText("Marie");
     EXPECT_TRUE(openAgain().sheet.OptFem.checked());
 }
