@@ -6,6 +6,7 @@
 #include <QIcon>
 #include <QPainter>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <algorithm>
@@ -20,6 +21,8 @@ namespace qt::theme {
 namespace {
 
 constexpr qreal kTextPoints = 10;
+// Kilobytes. The toolkit's own 10 MB fill up with the pictures of windows that are gone.
+constexpr int kPixmapCache = 2048;
 
 /// Draws the frame of a text or list that has the focus in the accent colour, as that of a field of one line, and gives
 /// boxes and circles to tick an edge that a dark palette shows.
@@ -133,6 +136,7 @@ QColor mixed(const QColor& colour, const QColor& other, double part) {
 
 void apply(QApplication& application) {
     loadArtwork();
+    QPixmapCache::setCacheLimit(kPixmapCache);
     QApplication::setStyle(new FocusFrameStyle(QStringLiteral("Fusion")));
     QApplication::setPalette(wantedPalette());
     QFont font = QApplication::font();
