@@ -62,7 +62,6 @@ void Program::addWindows() {
     desk_.add(QStringLiteral("Form21"), [this] { return std::make_unique<Form21>(around_, state_); });
     desk_.add(QStringLiteral("Form22"), [this] { return std::make_unique<Form22>(around_, state_); });
     desk_.add(QStringLiteral("RicheT"), [this] { return std::make_unique<reports::RicheT>(around_); });
-    desk_.setUnknown([this](const QString&) { tellUnavailable(); });
 }
 
 void Program::start() {
@@ -93,11 +92,6 @@ void Program::nameNewExam(const QString& surname, const QString& firstName) {
     auto& window = desk_.at<exams::Form5>();
     window.sheet.LblNom.setText(surname);
     window.sheet.LblPrenom.setText(firstName);
-}
-
-void Program::tellUnavailable() {
-    around_.boxes.message(QStringLiteral("Cette fenêtre n'est pas encore disponible dans cette version."),
-                          ports::Icon::Information);
 }
 
 }  // namespace shell

@@ -28,7 +28,6 @@ private:
     void showObstetricExam() override;
     void showGynaecologyExam() override;
     void nameNewExam(const QString& surname, const QString& firstName) override;
-    void tellUnavailable();
     void addWindows();
 
     store::State state_;
