@@ -61,7 +61,7 @@ int widthOf(const benchmark::State& state) {
 }
 
 pictures::JpegBytes encode(const pictures::cDIBSection& bitmap) {
-    return pictures::encodeJpeg(
+    return pictures::JpegEncoder().encode(
         {bitmap.DIBSectionBitsPtr(), bitmap.Width(), bitmap.Height(), bitmap.BytesPerScanLine()}, kQuality);
 }
 

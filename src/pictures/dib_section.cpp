@@ -48,7 +48,7 @@ bool cDIBSection::CreateFromPicture(const QImage& picture) {
         if (!Create(picture.width(), picture.height())) {
             return false;
         }
-        LoadPictureBlt(picture);
+        LoadPictureBlt(picture, {}, kWhole, QPainter::CompositionMode_SourceOver);
         return true;
     }
     if (!hold(picture.size())) {

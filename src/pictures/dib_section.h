@@ -19,7 +19,7 @@ public:
     bool CreateFromPicture(const QImage& picture);
     /// Copies a part of a picture to the top left corner. A negative width or height means that of the whole bitmap.
     void LoadPictureBlt(const QImage& source, QPoint from = {}, QSize size = kWhole,
-                        QPainter::CompositionMode operation = QPainter::CompositionMode_SourceOver);
+                        QPainter::CompositionMode operation = QPainter::CompositionMode_Source);
     /// Copies a part of the bitmap onto a surface, with the same convention.
     void PaintPicture(QPainter& surface, QPoint to = {}, QSize size = kWhole, QPoint from = {},
                       QPainter::CompositionMode operation = QPainter::CompositionMode_Source) const;

@@ -10,10 +10,10 @@ namespace {
 
 constexpr int kBytesPerPixel = 3;
 
-struct CloseHandle {
-    void operator()(void* handle) const { tjDestroy(handle); }
-};
-using Handle = std::unique_ptr<void, CloseHandle>;
+void close(void* handle) {
+    tjDestroy(handle);
+}
+using Handle = std::unique_ptr<void, void (*)(void*)>;
 
 struct Header {
     int width = 0, height = 0, sampling = 0, colors = 0;
@@ -39,27 +39,28 @@ QSize scaledSize(const Header& header, QSize wanted) {
 }
 
 // Bytes too many between two parts of the file cost nothing of the picture.
-bool harmless(Handle& handle) {
+bool harmless(const Handle& handle) {
     return tjGetErrorCode(handle.get()) == TJERR_WARNING &&
            QByteArray(tjGetErrorStr2(handle.get())).contains("extraneous bytes");
 }
 
 }  // namespace
 
-JpegBytes encodeJpeg(const PixelRows& rows, int quality) {
+JpegEncoder::JpegEncoder() : handle_(tjInitCompress(), close) {}
+
+JpegBytes JpegEncoder::encode(const PixelRows& rows, int quality) const {
     Q_ASSERT(rows.bytesPerLine >= rows.width * kBytesPerPixel);
-    const Handle handle(tjInitCompress());
     uchar* bytes = nullptr;
     unsigned long size = 0;
-    const bool done = rows.first && handle &&
-                      tjCompress2(handle.get(), rows.first, rows.width, rows.bytesPerLine, rows.height, TJPF_BGR,
+    const bool done = rows.first && ready() &&
+                      tjCompress2(handle_.get(), rows.first, rows.width, rows.bytesPerLine, rows.height, TJPF_BGR,
                                   &bytes, &size, TJSAMP_420, quality, TJFLAG_ACCURATEDCT) == 0;
     return {bytes, done ? static_cast<qsizetype>(size) : 0, [](uchar* released) { tjFree(released); }};
 }
 
 DecodedJpeg decodeJpeg(const QByteArray& bytes, QSize wanted) {
     using Outcome = DecodedJpeg::Outcome;
-    Handle handle(tjInitDecompress());
+    const Handle handle(tjInitDecompress(), close);
     Header header;
     const auto length = static_cast<unsigned long>(bytes.size());
     if (!handle || tjDecompressHeader3(handle.get(), data(bytes), length, &header.width, &header.height,

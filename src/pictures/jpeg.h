@@ -47,8 +47,19 @@ private:
     qsizetype size_ = 0;
 };
 
-/// Encodes pixels where they lie, nothing of them is copied. `quality` goes from 1 to 100, 0 counts for 1. Nothing if
-/// there are no pixels, a side is longer than 65500, or the quality is another.
-JpegBytes encodeJpeg(const PixelRows& rows, int quality);
+/// Makes JPEG files of pixels.
+class JpegEncoder {
+public:
+    JpegEncoder();
+
+    /// Whether the library could be started.
+    bool ready() const { return handle_ != nullptr; }
+    /// Encodes pixels where they lie, nothing of them is copied. `quality` goes from 1 to 100, 0 counts for 1. Nothing
+    /// if it isn't ready, there are no pixels, a side is longer than 65500, or the quality is another.
+    JpegBytes encode(const PixelRows& rows, int quality) const;
+
+private:
+    std::unique_ptr<void, void (*)(void*)> handle_;
+};
 
 }  // namespace pictures

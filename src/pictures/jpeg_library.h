@@ -10,7 +10,8 @@ namespace pictures::mIntelJPEGLibrary {
 /// and refuses what lies outside. True on success.
 ///
 /// A file of this name keeps its times of creation, access and change, and its attributes. On any failure it stays as
-/// it was. Throws JpegSave (26001): "Failed to save to JPG -1" if the encoder refuses, -2 if the file can't be written.
+/// it was. Throws JpegSave (26001): "Failed to initialise the IJL library: -1" if the encoder can't be started, "Failed
+/// to save to JPG -1" if it refuses, -2 if the file can't be written.
 bool SaveJPG(const cDIBSection& bitmap, const QString& file, int quality);
 
 }  // namespace pictures::mIntelJPEGLibrary

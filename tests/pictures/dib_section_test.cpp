@@ -82,6 +82,16 @@ TEST(DibSection, WhatShowsThroughAPictureIsWhite) {
     EXPECT_EQ(bitmap.DIBSectionBitsPtr()[2], 255);
 }
 
+TEST(DibSection, ACopyReplacesWhatWasThereEvenWhereTheSourceShowsThrough) {
+    QImage clear(1, 1, QImage::Format_ARGB32);
+    clear.fill(Qt::transparent);
+    cDIBSection bitmap;
+    ASSERT_TRUE(bitmap.Create(2, 1));
+    bitmap.LoadPictureBlt(clear, {}, QSize(1, 1));
+    const uchar* row = bitmap.DIBSectionBitsPtr();
+    EXPECT_EQ(QByteArray(reinterpret_cast<const char*>(row), 6), QByteArray("\x00\x00\x00\xff\xff\xff", 6));
+}
+
 TEST(DibSection, CopiesAPartInAndOut) {
     cDIBSection bitmap;
     ASSERT_TRUE(bitmap.Create(40, 40));

@@ -1,5 +1,6 @@
 #include "pictures/jpeg_library.h"
 
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -14,6 +15,19 @@
 #include "pictures/file_writing.h"
 #include "pictures/picture_file.h"
 #include "pictures/samples.h"
+
+namespace {
+
+bool encoderStarts = true;
+
+}  // namespace
+
+// Stands in front of the library's own function, to refuse what it refuses only on a machine without memory.
+extern "C" void* tjInitCompress();
+extern "C" void* tjInitCompress() {
+    static const auto real = reinterpret_cast<void* (*)()>(::dlsym(RTLD_NEXT, "tjInitCompress"));
+    return encoderStarts ? real() : nullptr;
+}
 
 namespace pictures {
 namespace {
@@ -103,6 +117,16 @@ TEST_F(JpegLibrary, AQualityThatIsNoneIsRefusedAndNothingIsWritten) {
         EXPECT_EQ(failure(path("a.jpg"), quality), "Failed to save to JPG -1") << quality;
     }
     EXPECT_EQ(files(), QStringList());
+}
+
+TEST_F(JpegLibrary, AnEncoderThatCantBeStartedIsToldAndLeavesTheOldFile) {
+    put(path("old.jpg"), "old");
+    encoderStarts = false;
+    const QString told = failure(path("old.jpg"));
+    encoderStarts = true;
+    EXPECT_EQ(told, "Failed to initialise the IJL library: -1");
+    EXPECT_EQ(bytesOf(path("old.jpg")), "old");
+    EXPECT_EQ(failure(path("old.jpg")), "");
 }
 
 TEST_F(JpegLibrary, WithoutAPictureNothingIsSaved) {
