@@ -101,6 +101,8 @@ TEST_F(AlbumClassing, HasTheCaptionsOfItsActions) {
     EXPECT_EQ(captions({"Critri", "Ajouter", "ADiagno", "AClef1", "AClef2", "AClef3", "Supprimer"}),
               Lines({"&Gestion des Critères de Tri", "Ajouter", "Diagnostic", "Mot Clef N°1", "Mot clef N°2",
                      "Mot Clef N°3", "Supprimer"}));
+    EXPECT_EQ(captions({"SDiagno", "SClef1", "SClef2", "SClef3"}),
+              Lines({"Diagnostic", "Mot Clef N°1", "Mot clef N°2", "Mot Clef N°3"}));
 }
 
 TEST_F(AlbumClassing, OpensAPictureWithItsNamesAndToday) {

@@ -258,6 +258,7 @@ TEST_F(AlbumSearching, TellsOfAFileThatIsNoPictureAndGoesOn) {
     click(form().Command1);
     click(form().CmdAffiche);
     EXPECT_EQ(said(), Lines({"Erreur de connection avec la base. \r\nOu le chemin d'un fichier image est erroné."}));
+    EXPECT_EQ(world_.boxes.saidIcons, QList<ports::Icon>({ports::Icon::Exclamation}));
     EXPECT_TRUE(wall().startsWith("p1.bmp -p2.bmp p3.bmp -")) << wall().toStdString();
 }
 

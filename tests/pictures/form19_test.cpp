@@ -31,6 +31,36 @@ TEST_F(Capture, OpensWithoutMarksWithoutTheFullViewAndWithSixASheet) {
     EXPECT_FALSE(form.Option2.checked() || form.Option4.checked() || form.Option8.checked());
 }
 
+TEST_F(Capture, HasItsTitleAndTheCaptionsOfItsControls) {
+    const Form19& form = open();
+    EXPECT_EQ(form.title(), "Gestion des clichés");
+    const std::pair<const char*, const char*> captions[] = {
+        {"Command1", "&Imprimer"},
+        {"Command2", "&Effacer les sélections"},
+        {"Command3", " &Ré Initialiser"},
+        {"Command4", "&Capturer"},
+        {"Command5", "&Archiver"},
+        {"Command6", "&Fermer"},
+        {"Option2", "X 2"},
+        {"Option4", "X 4"},
+        {"Option6", "X 6"},
+        {"Option8", "X 8"},
+        {"Fichiers", "&Fichier"},
+        {"OuvJpg", "&Ouvrir .JPG, .BMP"},
+        {"EnregBmp", "Enregistrer sous .&BMP "},
+        {"EnregJpg", "Enregistrer sous .&JPG "},
+        {"imprimer", "&Imprimer"},
+        {"Archiver", "&Archiver"},
+        {"Album", "Al&bum"},
+        {"Qui", "&Quitter"},
+    };
+    for (const auto& [name, caption] : captions) {
+        const auto* control = dynamic_cast<const forms::TextControl*>(form.find(QString(name)));
+        ASSERT_NE(control, nullptr) << name;
+        EXPECT_EQ(control->text(), caption) << name;
+    }
+}
+
 TEST_F(Capture, OpensWithoutANameWhereTheDossiersCantBeOpened) {
     QFile::remove(fakes::pathOf(world_, store::FileKind::Echo));
     desk().act([this] { desk().show("Form19"); });
@@ -423,6 +453,18 @@ TEST_F(Printing, TheMenuAsksForThePrinterFirst) {
     press(form.imprimer);
     EXPECT_EQ(world_.printers.jobs.size(), 1U);
     EXPECT_EQ(said(), QStringList());
+}
+
+TEST_F(Printing, TheMenuAsksForThePrinterBeforeItTellsThatPicturesLack) {
+    Form19& form = chosen(1);
+    world_.printers.accepts = false;
+    press(form.imprimer);
+    EXPECT_EQ(said(), QStringList());
+    world_.printers.accepts = true;
+    press(form.imprimer);
+    EXPECT_EQ(world_.printers.dialogs, 2);
+    EXPECT_EQ(said(), QStringList({"Veuillez selectionner 8 clichés."}));
+    EXPECT_TRUE(world_.printers.jobs.empty());
 }
 
 TEST_F(Printing, AFailureAfterTheDialogEndsItQuietlyThatOfTheButtonIsReported) {

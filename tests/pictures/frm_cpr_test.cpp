@@ -32,6 +32,18 @@ TEST_F(Compression, StartsAtNinety) {
     EXPECT_FALSE(form.exclusive());
 }
 
+TEST_F(Compression, HasTheCaptionsOfItsScaleAndItsButtons) {
+    const FrmCpr& form = dialog();
+    EXPECT_EQ(form.title(), "Compression JPG");
+    EXPECT_EQ(form.Label5.text(), "Réglage du taux de compression");
+    EXPECT_EQ(form.Label4.text(), "Haute qualité");
+    EXPECT_EQ(form.Label3.text(), "Basse qualité");
+    EXPECT_EQ(form.Label2.text(), "Faible compression");
+    EXPECT_EQ(form.Label1.text(), "Forte compression");
+    EXPECT_EQ(form.Command3.text(), "&Enregistrer");
+    EXPECT_EQ(form.Command2.text(), "&Annuler");
+}
+
 TEST_F(Compression, TheBarWritesTheTextAndTheTextDoesntMoveTheBar) {
     FrmCpr& form = dialog();
     form.HScroll1.setValue(35);
@@ -75,6 +87,15 @@ TEST_F(Compression, ATextThatIsNoNumberBecomesNinety) {
         EXPECT_EQ(savedWith(text), ninety) << text;
     }
     EXPECT_EQ(world_.boxes.reported, QList<int>());
+}
+
+TEST_F(Compression, ATextThatIsNoNumberIsSeenAsNinetyWhereTheSavingFails) {
+    press(ready("nowhere/a.jpg", 1).Command5);
+    auto& form = desk().at<FrmCpr>();
+    form.TxtQuality.setText("beaucoup");
+    press(form.Command3);
+    EXPECT_EQ(world_.boxes.reportedTexts, QStringList({"Failed to save to JPG -2"}));
+    EXPECT_EQ(form.TxtQuality.text(), "90");
 }
 
 TEST_F(Compression, AQualityThatTheEncoderRefusesIsReportedAndNothingSaved) {
