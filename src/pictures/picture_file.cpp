@@ -55,22 +55,24 @@ T littleEndian(const QByteArray& bytes, int at) {
     return qFromLittleEndian<T>(bytes.constData() + at);
 }
 
-// Whether a bitmap holds all the rows that its header announces. The rows of a compressed one can't be counted.
-bool holdsAllRows(const QByteArray& bytes) {
-    constexpr int kHeaders = 54;
-    if (bytes.size() < kHeaders) {
+// Whether a bitmap of this size holds all its rows. The rows of a compressed one can't be counted.
+bool holdsAllRows(const QByteArray& bytes, QSize size) {
+    constexpr int kRowsAt = 10, kHeaderAt = 14, kHeaders = 54, kDepthAt = 28, kCompressionAt = 30;
+    // The oldest kind of header is shorter, and knows no compression.
+    constexpr quint32 kHeader = 40;
+    constexpr int kOldHeaders = 26, kOldDepthAt = 24;
+    const bool old = bytes.size() >= kOldHeaders && littleEndian<quint32>(bytes, kHeaderAt) < kHeader;
+    if (bytes.size() < (old ? kOldHeaders : kHeaders)) {
         return false;
     }
-    constexpr int kRowsAt = 10, kWidthAt = 18, kHeightAt = 22, kDepthAt = 28, kCompressionAt = 30;
     constexpr quint32 kRle8 = 1, kRle4 = 2;
-    const auto compression = littleEndian<quint32>(bytes, kCompressionAt);
+    const quint32 compression = old ? 0 : littleEndian<quint32>(bytes, kCompressionAt);
     if (compression == kRle8 || compression == kRle4) {
         return true;
     }
-    const qint64 bits = qint64(littleEndian<qint32>(bytes, kWidthAt)) * littleEndian<quint16>(bytes, kDepthAt);
+    const qint64 bits = qint64(size.width()) * littleEndian<quint16>(bytes, old ? kOldDepthAt : kDepthAt);
     const qint64 row = (bits + 31) / 32 * 4;
-    const qint64 rows = qAbs(qint64(littleEndian<qint32>(bytes, kHeightAt)));
-    return littleEndian<quint32>(bytes, kRowsAt) + row * rows <= bytes.size();
+    return littleEndian<quint32>(bytes, kRowsAt) + row * size.height() <= bytes.size();
 }
 
 QSize fitting(QSize size, QSize box) {
@@ -85,7 +87,7 @@ QImage decode(QImageReader& reader, const QByteArray& bytes, QSize wanted) {
             return jpeg.picture;
         }
     }
-    if (reader.format() == "bmp" && !holdsAllRows(bytes)) {
+    if (reader.format() == "bmp" && !holdsAllRows(bytes, reader.size())) {
         return {};
     }
     QImage picture;

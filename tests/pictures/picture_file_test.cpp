@@ -69,6 +69,27 @@ TEST_F(PictureFile, GreyAndPalettedPicturesOpen) {
     }
 }
 
+// The oldest kind of bitmap, with sizes of 16 bits: 3 x 2 pixels of 24 bits, in rows of 12 bytes from the bottom up.
+QByteArray oldBitmap() {
+    return QByteArray::fromHex(
+        "424D32000000000000001A000000"
+        "0C00000003000200010018"
+        "00"
+        "FF0000FF0000FF0000"
+        "000000"
+        "0000FF00FF00FFFFFF"
+        "000000");
+}
+
+TEST_F(PictureFile, ABitmapOfTheOldestKindOpensWhenAllItsRowsAreThere) {
+    const QImage picture = loadPicture(put("old.bmp", oldBitmap()));
+    ASSERT_EQ(picture.size(), QSize(3, 2));
+    EXPECT_EQ(picture.pixel(0, 0), qRgb(255, 0, 0));
+    EXPECT_EQ(picture.pixel(1, 0), qRgb(0, 255, 0));
+    EXPECT_EQ(picture.pixel(2, 1), qRgb(0, 0, 255));
+    EXPECT_EQ(failure(put("cut.bmp", oldBitmap().chopped(1))), 481);
+}
+
 TEST_F(PictureFile, TheContentTellsTheFormatNotTheName) {
     EXPECT_EQ(loadPicture(write("bitmap.JPG", "bmp")).size(), QSize(160, 120));
     EXPECT_EQ(loadPicture(write("jpeg.BMP", "jpg")).size(), QSize(160, 120));
