@@ -14,11 +14,11 @@ class PortError(Exception):
 
 
 class Port:
-    def __init__(self, folder, today="2002-04-05", platform="offscreen", environment=None):
+    def __init__(self, folder, today="2002-04-05", platform="offscreen", environment=None, before=()):
         self.folder = pathlib.Path(folder)
         self.boxes = []
         env = dict(os.environ, QT_QPA_PLATFORM=platform, **(environment or {}))
-        command = [str(PROGRAM), "--program", str(self.folder)] + (["--today", today] if today else [])
+        command = [*before, str(PROGRAM), "--program", str(self.folder)] + (["--today", today] if today else [])
         self.process = subprocess.Popen(
             command, stdin=subprocess.PIPE, stdout=subprocess.PIPE, env=env, text=True, encoding="utf-8"
         )

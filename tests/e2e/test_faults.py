@@ -1,19 +1,18 @@
-"""Each window that writes, on a file that fails: it says so, keeps what was typed, and saves it once the fault is gone."""
-
-import contextlib
-import resource
-import shutil
-import sqlite3
+"""Each window that writes into a base, on a file that fails: it says so, keeps what was typed, and saves it once the
+fault is gone."""
 
 import pytest
+from bitmaps import plain
+from faults import damaged, full_disk, locked, ordinary_port, read_only, removed
 from port import Port
 
 MARK = "Saisie à ne pas perdre"
+NOT_CLASSED = "Erreur de manipulation, Fichier dèjà saisi ou sans nom!"
 
 
 @pytest.fixture
 def sample(tmp_path):
-    port = Port(tmp_path, today="2002-06-14")
+    port = ordinary_port(tmp_path)
     port.practice(patients=True)
     port.start()
     yield port
@@ -23,8 +22,9 @@ def sample(tmp_path):
 class Window:
     """How a window comes up with something typed, how it saves, and where the entry goes."""
 
-    def __init__(self, name, base, table, entry, save, open):
+    def __init__(self, name, base, table, entry, save, open, id=None):
         self.name, self.base, self.table, self.entry, self.save, self.open = name, base, table, entry, save, open
+        self.id = id or name
 
     def fill(self, port):
         self.open(port)
@@ -67,6 +67,21 @@ def phrase(port):
     port.click("Form9.CmdIndications")
 
 
+def chosen_phrase(port):
+    phrase(port)
+    port.dblclick("Form9.List1", row=0)
+
+
+def album(port):
+    port.click("Form1.Command6")
+
+
+def picture_to_class(port):
+    album(port)
+    port.answer(**{"with": [{"file": str(plain(port.folder / "kyste.bmp"))}]})
+    port.click("Form20.CmdOuvrir")
+
+
 WINDOWS = [
     Window("Form2", "NOM.MDB", "FICHEPATIENT", "TxtNom", "CmdEnreg", clicks("Form4.CmdCreeDossier")),
     Window("Form3", "NOM.MDB", "FICHEPATIENT", "TxtRue1", "CmdEnreg", clicks("Form4.CmdModifie")),
@@ -80,53 +95,41 @@ WINDOWS = [
            clicks("Form4.CmdGyneco", surname="ROSSIGNOL", first_name="")),
     Window("Form17", "ECHO.MDB", "GYNECO", "TxtGyneco(26)", "CmdModifs",
            clicks("Form4.Command5", "Form18.CmdModifs", surname="ROSSIGNOL", first_name="")),
+    Window("Form9", "ECHO.MDB", "OPTIONS", "Text1", "CmdModif", chosen_phrase, id="Form9-change"),
 ]
-each_window = pytest.mark.parametrize("window", WINDOWS, ids=lambda window: window.name)
+HISTORY = Window("Form4", "ATCD.MDB", "FICHEATCD", "TxtATCD", "CmdEnregATCD", clicks("Form4.CmdATCD"), id="Form4")
+KEY_WORD = Window("Form20", "ECHOTEK.MDB", "CLEFS", "CmbDiagno", "CmdAjouD", album, id="Form20-word")
+PICTURE = Window("Form20", "ECHOTEK.MDB", "ECHOS", "TxtNom", "CmdAjouter", picture_to_class, id="Form20")
 
 
-@contextlib.contextmanager
-def locked(path, port):
-    other = sqlite3.connect(path, isolation_level=None)
-    other.execute("BEGIN EXCLUSIVE")
-    try:
-        yield
-    finally:
-        other.execute("ROLLBACK")
-        other.close()
+class Deletion:
+    """A window in which a record is deleted."""
+
+    def __init__(self, name, base, table, button, open):
+        self.name, self.base, self.table, self.button, self.open = name, base, table, button, open
+
+    def press(self, port):
+        port.answer(**{"with": ["yes", "yes"]})
+        port.click(f"{self.name}.{self.button}")
+        return [box for box in port.boxes if box["kind"] == "error"]
+
+    def count(self, port):
+        return len(port.rows(table=self.table)["rows"])
 
 
-@contextlib.contextmanager
-def full_disk(path, port):
-    most = path.stat().st_size
-    _, hard = resource.prlimit(port.process.pid, resource.RLIMIT_FSIZE)
-    resource.prlimit(port.process.pid, resource.RLIMIT_FSIZE, (min(most, 2048), hard))
-    try:
-        yield
-    finally:
-        resource.prlimit(port.process.pid, resource.RLIMIT_FSIZE, (hard, hard))
+DELETIONS = [
+    Deletion("Form4", "NOM.MDB", "FICHEPATIENT", "CmdSupprime", clicks()),
+    Deletion("Form6", "ECHO.MDB", "1TER", "CmdSupprime", clicks("Form4.HlbCptDer")),
+    Deletion("Form10", "ECHO.MDB", "1TER", "CmdSupprime",
+             clicks("Form4.HlbCptDer", surname="GUÉRIN", first_name="SOPHIE")),
+    Deletion("Form18", "ECHO.MDB", "GYNECO", "CmdSupprime",
+             clicks("Form4.Command5", surname="ROSSIGNOL", first_name="")),
+    Deletion("Form9", "ECHO.MDB", "OPTIONS", "CmdSupprime", chosen_phrase),
+]
 
 
-@contextlib.contextmanager
-def removed(path, port):
-    aside = path.with_suffix(".autre")
-    path.rename(aside)
-    try:
-        yield
-        assert not path.exists(), "a file that is gone must not be made anew"
-    finally:
-        aside.rename(path)
-
-
-@contextlib.contextmanager
-def damaged(path, port):
-    sound = path.with_suffix(".sain")
-    shutil.copy(path, sound)
-    path.write_bytes(b"\x00" * path.stat().st_size)
-    try:
-        yield
-    finally:
-        # Put back into the same file: a station may have it open.
-        path.write_bytes(sound.read_bytes())
+def each(name, cases, id=lambda case: case.id):
+    return pytest.mark.parametrize(name, cases, ids=id)
 
 
 FAULTS = {
@@ -134,11 +137,13 @@ FAULTS = {
     full_disk: "Le disque est plein",
     removed: "introuvable",
     damaged: "n'est pas une base de données reconnue, ou il est endommagé",
+    read_only: "La base de données est en lecture seule",
 }
+each_fault = each("fault", FAULTS, id=lambda fault: fault.__name__)
 
 
-@each_window
-@pytest.mark.parametrize("fault", FAULTS, ids=lambda fault: fault.__name__)
+@each("window", WINDOWS)
+@each_fault
 def test_a_fault_at_saving_loses_nothing(sample, window, fault):
     before = window.stored(sample)
     window.fill(sample)
@@ -152,7 +157,72 @@ def test_a_fault_at_saving_loses_nothing(sample, window, fault):
     assert window.stored(sample) == before + 1
 
 
-@each_window
+@each("window", [HISTORY, KEY_WORD])
+@each_fault
+def test_a_fault_that_ends_in_silence_loses_nothing(sample, window, fault):
+    before = window.stored(sample)
+    window.fill(sample)
+    caption = sample.text(f"{window.name}.{window.save}")
+    with fault(sample.folder / window.base, sample):
+        assert window.press(sample) == []
+        assert {box["kind"] for box in sample.boxes} <= {"question"}
+        assert window.text(sample) == MARK
+        assert sample.text(f"{window.name}.{window.save}") == caption
+    assert window.stored(sample) == before
+    assert window.press(sample) == []
+    assert window.stored(sample) == before + 1
+
+
+@each_fault
+def test_a_picture_that_cant_be_classed_stays_in_hand(sample, fault):
+    PICTURE.fill(sample)
+    with fault(sample.folder / PICTURE.base, sample):
+        PICTURE.press(sample)
+        [box] = sample.boxes
+        # The album tells a failure of its writing in its own words.
+        writes = fault in (full_disk, read_only)
+        assert (box["kind"] == "message") == writes
+        assert (NOT_CLASSED if writes else FAULTS[fault]) in box["text"]
+        assert PICTURE.text(sample) == MARK
+        assert sample.get("Form20.ImgCharge")["picture"] == {"width": 64, "height": 48}
+    assert PICTURE.stored(sample) == 0
+    assert PICTURE.press(sample) == []
+    assert PICTURE.stored(sample) == 1
+
+
+@each_fault
+def test_a_picture_that_is_gone_stays_classed_when_it_cant_be_declassed(sample, fault):
+    PICTURE.fill(sample)
+    assert PICTURE.press(sample) == []
+    (sample.folder / "kyste.bmp").unlink()
+    sample.set("Form20.TxtRechNom", text=MARK)
+    sample.click("Form20.TriNom")
+    with fault(sample.folder / PICTURE.base, sample):
+        sample.answer(**{"with": ["yes"]})
+        sample.dblclick("Form20.List4", row=0)
+        assert [FAULTS[fault] in box["text"] for box in sample.boxes if box["kind"] == "error"] == [True]
+    assert PICTURE.stored(sample) == 1
+    sample.answer(**{"with": ["yes"]})
+    sample.dblclick("Form20.List4", row=0)
+    assert PICTURE.stored(sample) == 0
+
+
+@each("deletion", DELETIONS, id=lambda deletion: deletion.name)
+@each_fault
+def test_a_deletion_that_fails_leaves_the_record(sample, deletion, fault):
+    before = deletion.count(sample)
+    deletion.open(sample)
+    with fault(sample.folder / deletion.base, sample):
+        errors = deletion.press(sample)
+        assert len(errors) == 1
+        assert FAULTS[fault] in errors[0]["text"]
+        assert deletion.name in sample.shown()
+    assert deletion.count(sample) == before
+    assert deletion.press(sample) == []
+    assert deletion.count(sample) == before - 1
+
+
+@each("window", [*WINDOWS, HISTORY, KEY_WORD, PICTURE])
 def test_a_killed_program_starts_again_with_every_record(tmp_path, window):
     port = Port(tmp_path, today="2002-06-14")
     port.practice(patients=True)
