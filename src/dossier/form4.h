@@ -103,7 +103,6 @@ private:
 
     void onText1Change();
     void onText2Change();
-    void onText1Focus();
     void enableBrowsing();
     void showEnd(void (store::Recordset::*move)());
     void step(void (store::Recordset::*move)(), bool (store::Recordset::*fellOff)() const,

@@ -7,8 +7,6 @@
 #include "exams/form6.h"
 #include "exams/form8.h"
 #include "exams/later_trimesters_reports.h"
-#include "exams/report_head.h"
-#include "exams/settings_file.h"
 #include "reports/riche_t.h"
 
 namespace exams {
@@ -114,14 +112,14 @@ Form10::Form10(ObstetricExams& exams)
                     1) {
     Examens.holds(Ter1, Ter2, Modif, Supprim, fermer);
     Rapports.holds(imprimer, Biometrie);
-    TypeCptR.holds(CptrD, CptrM, Intro);
+    CptrD.setText(QStringLiteral("Compte Rendu détaillé"));
     for (int i = 0; i < kMost; ++i) {
         frames()[static_cast<std::size_t>(i)]->holds(
             TxtPres(i), CmbMa(i), TxtAC(i), TxtBip(i), TxtCc(i), TxtDio(i), TxtCerv(i), TxtDat(i), TxtCa(i), TxtFem(i),
             TxtPied(i), TxtTibia(i), TxtHum(i), TxtNez(i), TxtArtO(i), TxtArtC(i), morphology(i));
     }
-    lockBoxesBut({TxtPied(0).name(), TxtPres(0).name(), TxtNbrE.name()});
-    wireEntries({Ter1, Ter2, fermer, CptrD, CptrM, Intro, Aide});
+    forms::lockBoxes(*this, {TxtPied(0).name(), TxtPres(0).name(), TxtNbrE.name()});
+    wireEntries(Ter1, Ter2, fermer);
     wireSteps();
 }
 
@@ -149,11 +147,7 @@ void Form10::wireSteps() {
 }
 
 void Form10::load() {
-    if (const auto marks = readSettings(exams().life().around().programFolder)) {
-        CptrD.setChecked(marks->laterDetailed);
-        CptrM.setChecked(marks->laterOther);
-        Intro.setChecked(marks->introduction);
-    }
+    takeMarks(&MenuMarks::laterDetailed, &MenuMarks::laterOther);
     copyIdentity();
 }
 
@@ -196,13 +190,9 @@ void Form10::adjustFetusButtons() {
 }
 
 void Form10::CptRendu2T() {
-    const ExamLife& life = exams().life();
-    const reports::LaterExam exam = examOnShow(*this, life);
+    const reports::LaterExam exam = examOnShow(*this, exams().life());
     reports::RicheT& editor = reports::openEditor(desk(), reports::kLaterTrimestersTitle);
-    const QString introduction = introductionOf(life);
-    reports::type(reports::CptRendu2T(exam, CptrM.checked() ? reports::Detail::Minimum : reports::Detail::Full,
-                                      Intro.checked() ? std::optional(introduction) : std::nullopt),
-                  editor.RichTextBox1);
+    reports::type(reports::CptRendu2T(exam, detail(), introduction()), editor.RichTextBox1);
 }
 
 void Form10::Supprime() {

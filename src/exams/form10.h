@@ -12,20 +12,13 @@ public:
 
     explicit Form10(ObstetricExams& exams);
 
-    forms::Menu Examens{*this, "Examens", "E&xamen"};
     forms::Menu Ter1{*this, "Ter1", "1 er Ter"};
     forms::Menu Ter2{*this, "Ter2", "2 - 3 ème Ter"};
     forms::Menu Modif{*this, "Modif", "Modifier"};
     forms::Menu Supprim{*this, "Supprim", "Supprimer"};
     forms::Menu fermer{*this, "fermer", "Fermer"};
-    forms::Menu Rapports{*this, "Rapports", "C&omptes Rendus"};
     forms::Menu imprimer{*this, "imprimer", "Compte Rendu"};
     forms::Menu Biometrie{*this, "Biometrie", "Biométrie"};
-    forms::Menu TypeCptR{*this, "TypeCptR", "&Type de Compte Rendu"};
-    forms::Menu CptrD{*this, "CptrD", "Compte Rendu détaillé", true};
-    forms::Menu CptrM{*this, "CptrM", "Compte Rendu Minimum", false};
-    forms::Menu Intro{*this, "Intro", "Avec Introduction", true};
-    forms::Menu Aide{*this, "Aide", "A&ide"};
 
     forms::Label Label1{*this, "Label1", "Echographie du  3éme  Trimestre"};
     forms::TextBox TxtTypecho{*this, "TxtTypecho"};

@@ -5,8 +5,6 @@
 #include "exams/first_trimester_reports.h"
 #include "exams/form10.h"
 #include "exams/form5.h"
-#include "exams/report_head.h"
-#include "exams/settings_file.h"
 #include "reports/riche_t.h"
 
 namespace exams {
@@ -68,13 +66,12 @@ Form6::Form6(ObstetricExams& exams)
     : ObstetricView(exams, kName, QStringLiteral("Echographie du 1er Trimestre"), QStringLiteral("Embryon"), 2) {
     Examens.holds(Echo1T, Echo2T, Modif, Supprim, Quitte);
     Rapports.holds(Cptrendu, Datation);
-    TypeCptR.holds(CptrD, CptrM, Intro);
     for (int i = 0; i < kMost; ++i) {
         frames()[static_cast<std::size_t>(i)]->holds(LblMA(i), LblAC(i), LblLCC(i), LblBip(i), LblFem(i), LblNuque(i),
                                                      LblOPN(i), TxtMorpho(i));
     }
-    lockBoxesBut({});
-    wireEntries({Echo1T, Echo2T, Quitte, CptrD, CptrM, Intro, Aide});
+    forms::lockBoxes(*this);
+    wireEntries(Echo1T, Echo2T, Quitte);
     wireSteps();
 }
 
@@ -91,11 +88,7 @@ void Form6::wireSteps() {
 }
 
 void Form6::load() {
-    if (const auto marks = readSettings(exams().life().around().programFolder)) {
-        CptrD.setChecked(marks->firstDetailed);
-        CptrM.setChecked(marks->firstOther);
-        Intro.setChecked(marks->introduction);
-    }
+    takeMarks(&MenuMarks::firstDetailed, &MenuMarks::firstOther);
     AFFCIVILITES();
 }
 
@@ -140,10 +133,7 @@ void Form6::adjustEmbryoButtons() {
 void Form6::CptRendu1T() {
     reports::RicheT& editor = reports::openEditor(desk(), reports::kFirstTrimesterTitle);
     const reports::FirstTrimesterExam exam = examOnShow(*this, exams().life());
-    const QString introduction = introductionOf(exams().life());
-    reports::type(reports::CptRendu1T(exam, CptrM.checked() ? reports::Detail::Minimum : reports::Detail::Full,
-                                      Intro.checked() ? std::optional(introduction) : std::nullopt),
-                  editor.RichTextBox1);
+    reports::type(reports::CptRendu1T(exam, detail(), introduction()), editor.RichTextBox1);
 }
 
 void Form6::CptRenduDat() {

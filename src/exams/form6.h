@@ -11,20 +11,13 @@ public:
 
     explicit Form6(ObstetricExams& exams);
 
-    forms::Menu Examens{*this, "Examens", "E&xamen"};
     forms::Menu Echo1T{*this, "Echo1T", "Echo 1er Ter"};
     forms::Menu Echo2T{*this, "Echo2T", "Echo 2 - 3 ème Ter"};
     forms::Menu Modif{*this, "Modif", "Modifier"};
     forms::Menu Supprim{*this, "Supprim", "Supprimer"};
     forms::Menu Quitte{*this, "Quitte", "Quitter"};
-    forms::Menu Rapports{*this, "Rapports", "C&omptes Rendus"};
     forms::Menu Cptrendu{*this, "Cptrendu", "Compte Rendu"};
     forms::Menu Datation{*this, "Datation", "Datation"};
-    forms::Menu TypeCptR{*this, "TypeCptR", "&Type de Compte Rendu"};
-    forms::Menu CptrD{*this, "CptrD", "Compte Rendu Détaillé", true};
-    forms::Menu CptrM{*this, "CptrM", "Compte Rendu Minimum", false};
-    forms::Menu Intro{*this, "Intro", "Avec Introduction", true};
-    forms::Menu Aide{*this, "Aide", "A&ide"};
 
     forms::Label LblNbr{*this, "LblNbr"};
     forms::Label LblSituation{*this, "LblSituation"};

@@ -1,6 +1,7 @@
 #include "exams/obstetric_view.h"
 
 #include "base/numbers.h"
+#include "exams/report_head.h"
 
 namespace exams {
 
@@ -8,6 +9,7 @@ ObstetricView::ObstetricView(ObstetricExams& exams, QStringView name, const QStr
                              int thirdFrame)
     : Form(exams.life().desk(), name.toString(), title), FetusPanels(*this, fetus, thirdFrame), exams_(exams) {
     Frame12.holds(CmdPrem, CmdRec, CmdAv, CmdDer);
+    TypeCptR.holds(CptrD, CptrM, Intro);
     for (int i = 0; i < kMost; ++i) {
         buttons()[static_cast<std::size_t>(i)]->onClick = [this, i] { bringInView(i); };
     }
@@ -18,38 +20,47 @@ ObstetricView::ObstetricView(ObstetricExams& exams, QStringView name, const QStr
     Hlb1T.onClick = [this] { exams_.openNew(dossier::ExamFamily::FirstTrimester); };
     Hlb2T.onClick = [this] { exams_.openNew(dossier::ExamFamily::LaterTrimesters); };
     CmdQuitter.onClick = [this] { unload(); };
+    wireStyle();
 }
 
-void ObstetricView::wireEntries(const Entries& entries) {
-    const auto choose = [&detailed = entries.detailed, &minimum = entries.minimum](bool full) {
-        detailed.setChecked(full);
-        minimum.setChecked(!full);
+void ObstetricView::wireStyle() {
+    const auto choose = [this](bool full) {
+        CptrD.setChecked(full);
+        CptrM.setChecked(!full);
     };
-    entries.detailed.onClick = [choose] { choose(true); };
-    entries.minimum.onClick = [choose] { choose(false); };
-    entries.introduction.onClick = [&mark = entries.introduction] { mark.setChecked(!mark.checked()); };
-    entries.newFirst.onClick = [this] { Hlb1T.click(); };
-    entries.newLater.onClick = [this] { Hlb2T.click(); };
-    entries.leave.onClick = [this] { leave(); };
-    entries.help.onClick = [this] {
+    CptrD.onClick = [choose] { choose(true); };
+    CptrM.onClick = [choose] { choose(false); };
+    Intro.onClick = [this] { Intro.setChecked(!Intro.checked()); };
+}
+
+void ObstetricView::wireEntries(forms::Menu& newFirst, forms::Menu& newLater, forms::Menu& leaving) {
+    newFirst.onClick = [this] { Hlb1T.click(); };
+    newLater.onClick = [this] { Hlb2T.click(); };
+    leaving.onClick = [this] { leave(); };
+    Aide.onClick = [this] {
         const ports::Surroundings& around = exams_.life().around();
-        around.help.showContents(around.programFolder + QStringLiteral("/VERANOX.HLP"));
+        around.help.showContents(around.manual());
     };
-}
-
-void ObstetricView::lockBoxesBut(const QStringList& names) {
-    for (forms::Control* control : controls()) {
-        const bool open = names.contains(control->name(), Qt::CaseInsensitive);
-        if (control->kind() == forms::Kind::TextBox) {
-            static_cast<forms::TextBox*>(control)->setLocked(!open);
-        } else if (control->kind() == forms::Kind::ComboBox) {
-            static_cast<forms::ComboBox*>(control)->setLocked(!open);
-        }
-    }
 }
 
 void ObstetricView::copyIdentity() {
     exams_.life().copyIdentity(LblNom, LblPrenom, LblNumInt);
+}
+
+void ObstetricView::takeMarks(bool MenuMarks::*detailed, bool MenuMarks::*other) {
+    if (const auto marks = readSettings(exams_.life().around().programFolder)) {
+        CptrD.setChecked((*marks).*detailed);
+        CptrM.setChecked((*marks).*other);
+        Intro.setChecked(marks->introduction);
+    }
+}
+
+reports::Detail ObstetricView::detail() const {
+    return CptrM.checked() ? reports::Detail::Minimum : reports::Detail::Full;
+}
+
+std::optional<QString> ObstetricView::introduction() const {
+    return Intro.checked() ? std::optional(introductionOf(exams_.life())) : std::nullopt;
 }
 
 void ObstetricView::bringInView(int which) {

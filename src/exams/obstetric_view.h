@@ -2,8 +2,10 @@
 
 #include "exams/fetus_panels.h"
 #include "exams/obstetric_exams.h"
+#include "exams/settings_file.h"
 #include "forms/controls.h"
 #include "forms/form.h"
+#include "reports/sections.h"
 
 namespace exams {
 
@@ -39,6 +41,14 @@ public:
     forms::Button CmdAv{*this, "CmdAv", "&>"};
     forms::Button CmdDer{*this, "CmdDer", "De&r"};
 
+    forms::Menu Examens{*this, "Examens", "E&xamen"};
+    forms::Menu Rapports{*this, "Rapports", "C&omptes Rendus"};
+    forms::Menu TypeCptR{*this, "TypeCptR", "&Type de Compte Rendu"};
+    forms::Menu CptrD{*this, "CptrD", "Compte Rendu Détaillé", true};
+    forms::Menu CptrM{*this, "CptrM", "Compte Rendu Minimum", false};
+    forms::Menu Intro{*this, "Intro", "Avec Introduction", true};
+    forms::Menu Aide{*this, "Aide", "A&ide"};
+
     forms::Button Hlb1T{*this, "Hlb1T", "Echo &1er Ter"};
     forms::Button Hlb2T{*this, "Hlb2T", "Echo &2 - 3 ème Ter"};
     forms::Button CmdModifs{*this, "CmdModifs", "&Modifier"};
@@ -46,20 +56,20 @@ public:
     forms::Button CmdQuitter{*this, "CmdQuitter", "&Quitter"};
 
 protected:
-    /// The entries of the menu that both windows have, by what they do.
-    struct Entries {
-        forms::Menu &newFirst, &newLater, &leave, &detailed, &minimum, &introduction, &help;
-    };
-
     ObstetricView(ObstetricExams& exams, QStringView name, const QString& title, const QString& fetus, int thirdFrame);
 
     ObstetricExams& exams() const { return exams_; }
     const store::Recordset& record() const { return exams_.life().state().Rs; }
 
-    void wireEntries(const Entries& entries);
-    /// Keeps a person from writing in every box but those named.
-    void lockBoxesBut(const QStringList& names);
+    /// The entries that lead on from here.
+    void wireEntries(forms::Menu& newFirst, forms::Menu& newLater, forms::Menu& leaving);
     void copyIdentity();
+
+    /// Marks the style of the reports as the settings file says; without one it stays.
+    void takeMarks(bool MenuMarks::*detailed, bool MenuMarks::*other);
+    /// What the marks ask of a report.
+    reports::Detail detail() const;
+    std::optional<QString> introduction() const;
 
     /// Without its buttons the panel goes, and the first fetus comes in view: nobody could bring it back.
     void hidePanel();
@@ -72,6 +82,7 @@ protected:
     void deleteExam(const std::function<void()>& clearWriting);
 
 private:
+    void wireStyle();
     void bringInView(int which);
     void leave();
 

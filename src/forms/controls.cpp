@@ -164,6 +164,17 @@ void Calendar::choose(QDate date) {
     }
 }
 
+void lockBoxes(const Form& form, const QStringList& open) {
+    for (Control* control : form.controls()) {
+        const bool locked = !open.contains(control->name(), Qt::CaseInsensitive);
+        if (control->kind() == Kind::TextBox) {
+            static_cast<TextBox*>(control)->setLocked(locked);
+        } else if (control->kind() == Kind::ComboBox) {
+            static_cast<ComboBox*>(control)->setLocked(locked);
+        }
+    }
+}
+
 void Switch::setChecked(bool checked) {
     if (checked_ == checked) {
         return;

@@ -156,6 +156,9 @@ private:
     bool locked_ = false;
 };
 
+/// Keeps a person from writing in the text boxes and combo boxes of a form, but for those whose names are in `open`.
+void lockBoxes(const Form& form, const QStringList& open = {});
+
 /// What is on or off: an option button, a check box, a menu entry with a mark.
 class Switch : public TextControl {
 public:

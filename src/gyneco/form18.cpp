@@ -14,7 +14,7 @@ Form18::Form18(GynaecologyExams& exams)
     Rapports.holds(EchoP, Monito);
     Interro.holds(Aide, APropos);
     fillFrames();
-    lockFields();
+    forms::lockBoxes(*this);
     Command3.hide();
     CmdCptStim.hide();
     wireMenus();
@@ -36,16 +36,6 @@ void Form18::fillFrames() {
     pages.Frame8.holds(TxtJStim, TxtDimD, TxtNbrFolD, TxtTFolD, TxtDimG, TxtNbrFolG, TxtTFolG, TxtEndom, Text1, Text2);
 }
 
-void Form18::lockFields() {
-    for (forms::Control* control : controls()) {
-        if (control->kind() == forms::Kind::TextBox) {
-            static_cast<forms::TextBox*>(control)->setLocked(true);
-        } else if (control->kind() == forms::Kind::ComboBox) {
-            static_cast<forms::ComboBox*>(control)->setLocked(true);
-        }
-    }
-}
-
 void Form18::wireMenus() {
     CreeEcho.onClick = [this] { exams_.openNew(); };
     Modifie.onClick = [this] { Modif(); };
@@ -57,7 +47,7 @@ void Form18::wireMenus() {
     Monito.onClick = [this] { CptRenduOvulation(); };
     Aide.onClick = [this] {
         const ports::Surroundings& around = exams_.life().around();
-        around.help.showContents(around.programFolder + QStringLiteral("/VERANOX.HLP"));
+        around.help.showContents(around.manual());
     };
     APropos.onClick = [this] { desk().show(QStringLiteral("Form14")); };
 }

@@ -87,7 +87,6 @@ private:
     void wireMenus();
     void wireButtons();
     void fillFrames();
-    void lockFields();
     void turnToMonitoring();
     void turnToPelvic();
     void showPhotos();

@@ -92,7 +92,7 @@ void Form20::wireMenus() {
     SClef1.onClick = [this] { keyWords_.remove(1); };
     SClef2.onClick = [this] { keyWords_.remove(2); };
     SClef3.onClick = [this] { keyWords_.remove(3); };
-    Aide.onClick = [this] { around_.help.showContents(around_.programFolder + QStringLiteral("/VERANOX.HLP")); };
+    Aide.onClick = [this] { around_.help.showContents(around_.manual()); };
 }
 
 void Form20::wirePictureInHand() {

@@ -28,6 +28,9 @@ struct Machine {
     PictureSource& pictureSource;
     /// The program's own folder, with no closing separator.
     QString programFolder;
+
+    /// The file of the manual.
+    QString manual() const { return programFolder + QStringLiteral("/VERANOX.HLP"); }
 };
 
 /// What a window reaches of the world around it: the machine and the other windows.

@@ -13,7 +13,7 @@ Form1::Form1(ports::Surroundings& around, store::State& state)
     Command6.onClick = [this] { open(QStringLiteral("Form20")); };
     CmdSauve.onClick = [this] { open(QStringLiteral("Form21")); };
     CmdSupervi.onClick = [this] { open(QStringLiteral("Form22")); };
-    CmdAide.onClick = [this] { around_.help.showContents(around_.programFolder + QStringLiteral("/VERANOX.HLP")); };
+    CmdAide.onClick = [this] { around_.help.showContents(around_.manual()); };
     Command4.onClick = [this] { open(QStringLiteral("Form14")); };
     Command3.onClick = [this] { desk().end(); };
 }

@@ -69,7 +69,7 @@ void Program::start() {
 }
 
 void Program::showHelp(const QString& window) {
-    around_.help.showChapter(around_.programFolder + QStringLiteral("/VERANOX.HLP"), window);
+    around_.help.showChapter(around_.manual(), window);
 }
 
 void Program::openNew(dossier::ExamFamily family) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QFile>
+
 #include "exams/form10.h"
 #include "exams/form11.h"
 #include "exams/form5.h"
@@ -72,6 +74,17 @@ protected:
         addExam(patient, number, date, fakes::Fields{{"TYPECHO", "0"}} + more);
     }
     QStringList stored(int patient, const QString& field) { return PracticeWindows::stored("1TER", patient, field); }
+
+    /// Puts a settings file beside the program; what it holds.
+    void settingsFile(const QByteArray& text) {
+        QFile file(world_.folder.filePath("Settings"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+    QByteArray settings() {
+        QFile file(world_.folder.filePath("Settings"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
 
     void openNew(dossier::ExamFamily family) override { exams_.openNew(family); }
     void showObstetricExam() override { exams_.display(); }

@@ -9,15 +9,6 @@ namespace {
 
 class LaterViewingWindow : public ExamWindows {
 protected:
-    void settingsFile(const QByteArray& text) {
-        QFile file(world_.folder.filePath("Settings"));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-    }
-    QByteArray settings() {
-        QFile file(world_.folder.filePath("Settings"));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     /// Two of each family in one sequence: 1 first, 2 later, 3 first, 4 later.
     void mixedDossier() {
         addExam(2, 1, "10/01/2002", {{"TYPECHO", "1"}, {"NBRE", "1"}, {"CONCLU1", "un"}});
@@ -218,36 +209,6 @@ TEST_F(LaterViewingWindow, OpensForEachKindButOne) {
     EXPECT_FALSE(shown("Form10"));
 }
 
-TEST_F(LaterViewingWindow, TakesItsMarksFromTheSettingsFile) {
-    addLater(2, 1, "10/01/2002");
-    settingsFile("\"Faux\",\"Vrai\",\"Faux\",\"Vrai\",\"Vrai\",\"Faux\",\"Faux\"\r\n");
-    const Form10& form = viewLastLater();
-    EXPECT_FALSE(form.CptrD.checked());
-    EXPECT_TRUE(form.CptrM.checked());
-    EXPECT_FALSE(form.Intro.checked());
-}
-
-TEST_F(LaterViewingWindow, StartsDetailedWithIntroductionWhenThereIsNoFile) {
-    addLater(2, 1, "10/01/2002");
-    const Form10& form = viewLastLater();
-    EXPECT_TRUE(form.CptrD.checked());
-    EXPECT_FALSE(form.CptrM.checked());
-    EXPECT_TRUE(form.Intro.checked());
-}
-
-TEST_F(LaterViewingWindow, TheTwoStylesExcludeEachOtherAndTheIntroductionFlips) {
-    addLater(2, 1, "10/01/2002");
-    Form10& form = viewLastLater();
-    press(form.CptrM);
-    EXPECT_TRUE(form.CptrM.checked() && !form.CptrD.checked());
-    press(form.CptrD);
-    EXPECT_TRUE(form.CptrD.checked() && !form.CptrM.checked());
-    press(form.Intro);
-    EXPECT_FALSE(form.Intro.checked());
-    press(form.Intro);
-    EXPECT_TRUE(form.Intro.checked());
-}
-
 TEST_F(LaterViewingWindow, TheNumberOfFetusesSetsTheButtons) {
     int number = 0;
     for (const char* count : {"1", "2", "3", "4", "0", "", "deux"}) {
@@ -266,33 +227,6 @@ TEST_F(LaterViewingWindow, TheNumberOfFetusesSetsTheButtons) {
         press(form.CmdAv);
         EXPECT_FALSE(form.Frame5.visible()) << form.TxtNbrE.text().toStdString();
     }
-}
-
-TEST_F(LaterViewingWindow, AButtonBringsAFetusInViewAndSteppingIsOfferedWithTheFirstAlone) {
-    addLater(2, 1, "10/01/2002", {{"NBRE", "3"}});
-    Form10& form = viewLastLater();
-    EXPECT_TRUE(form.FrameJ1.visible() && !form.FrameJ2.visible() && !form.FrameJ3.visible());
-    press(form.CmdJ2);
-    EXPECT_TRUE(!form.FrameJ1.visible() && form.FrameJ2.visible() && !form.FrameJ3.visible());
-    EXPECT_EQ(form.Frame5.back(), 0xFFFFFFU);
-    EXPECT_FALSE(form.Frame12.visible());
-    press(form.CmdJ3);
-    EXPECT_TRUE(!form.FrameJ1.visible() && !form.FrameJ2.visible() && form.FrameJ3.visible());
-    EXPECT_EQ(form.Frame5.back(), 0xFFC0C0U);
-    EXPECT_FALSE(form.Frame12.visible());
-    press(form.CmdJ1);
-    EXPECT_TRUE(form.FrameJ1.visible() && !form.FrameJ2.visible() && !form.FrameJ3.visible());
-    EXPECT_EQ(form.Frame5.back(), 0xC0FFFFU);
-    EXPECT_TRUE(form.Frame12.visible());
-}
-
-TEST_F(LaterViewingWindow, ALoneFetusIsNeverLeftOutOfSight) {
-    addLater(2, 1, "10/01/2002", {{"NBRE", "2"}});
-    addLater(3, 1, "10/01/2002", {{"NBRE", "1"}});
-    press(viewLastLater().CmdJ2);
-    const Form10& form = viewLastLater("MARTIN");
-    EXPECT_TRUE(form.FrameJ1.visible() && !form.FrameJ2.visible());
-    EXPECT_TRUE(form.Frame12.visible());
 }
 
 TEST_F(LaterViewingWindow, SteppingCrossesBetweenTheFamilies) {
@@ -335,17 +269,6 @@ TEST_F(LaterViewingWindow, SteppingStopsAtTheEnds) {
     EXPECT_TRUE(world_.boxes.said.isEmpty());
 }
 
-TEST_F(LaterViewingWindow, NeverShowsOnePatientsExamUnderAnothersName) {
-    addLater(2, 1, "10/01/2002");
-    addLater(3, 1, "11/01/2002");
-    viewLastLater("DUPONT");
-    viewLastLater("MARTIN");
-    EXPECT_EQ(laterView().LblDatExam.text(), "11/01/2002");
-    EXPECT_EQ(laterView().LblNom.text(), "MARTIN");
-    EXPECT_EQ(laterView().LblPrenom.text(), "Anne");
-    EXPECT_EQ(laterView().LblNumInt.text(), "3");
-}
-
 TEST_F(LaterViewingWindow, ADoubleClickOnADateOfTheListShowsTheLaterOfTwo) {
     addExam(2, 1, "10/01/2002", {{"TYPECHO", "1"}});
     addLater(2, 2, "10/01/2002", {{"CONCLU1", "second"}});
@@ -356,30 +279,6 @@ TEST_F(LaterViewingWindow, ADoubleClickOnADateOfTheListShowsTheLaterOfTwo) {
     desk().act([&] { dossier.List1.doubleClick(); });
     EXPECT_TRUE(shown("Form10"));
     EXPECT_EQ(laterView().TxtConclu1.text(), "second");
-}
-
-TEST_F(LaterViewingWindow, ADeletionAsksTwice) {
-    mixedDossier();
-    viewLastLater();
-    for (const QList<bool>& answers : {QList<bool>{false}, QList<bool>{true, false}}) {
-        world_.boxes.answers = answers;
-        press(laterView().CmdSupprime);
-        EXPECT_EQ(stored(2, "NUMECHO").size(), 4);
-        EXPECT_TRUE(shown("Form10"));
-    }
-    EXPECT_EQ(world_.boxes.asked.first(), "Voulez vous vraiment SUPPRIMER cette Echographie ?");
-    EXPECT_EQ(world_.boxes.asked.last(), "ATTENTION cette Echographie va être supprimée. CONTINUER ?");
-}
-
-TEST_F(LaterViewingWindow, WithoutAnOpenDossierADeletionAsksNothing) {
-    addLater(2, 1, "10/01/2002");
-    viewLastLater();
-    desk().at<dossier::Form4>().NomLbl.setText({});
-    world_.boxes.answers = {true, true};
-    press(laterView().CmdSupprime);
-    EXPECT_TRUE(world_.boxes.asked.isEmpty());
-    EXPECT_EQ(stored(2, "NUMECHO"), QStringList({"1"}));
-    EXPECT_TRUE(shown("Form10"));
 }
 
 TEST_F(LaterViewingWindow, ADeletionLeavesTheDossierWindowOnThePatients) {
@@ -454,15 +353,6 @@ TEST_F(LaterViewingWindow, TheMenuEntriesThatCloseLeaveTheFileAloneWhicheverWind
     EXPECT_FALSE(QFile::exists(world_.folder.filePath("Settings")));
 }
 
-TEST_F(LaterViewingWindow, OpensANewExamOfTheFirstTrimester) {
-    mixedDossier();
-    press(viewLastLater().Ter1);
-    EXPECT_EQ(desk().at<Form5>().sheet.TxtNumEcho.text(), "5");
-    press(desk().at<Form5>().CmdQuitter);
-    press(laterView().Hlb1T);
-    EXPECT_TRUE(shown("Form5"));
-}
-
 TEST_F(LaterViewingWindow, LeavingAWritingWindowHidesTheSteppingOfBothUntilAnEndIsAskedFor) {
     mixedDossier();
     viewLastLater();
@@ -481,23 +371,12 @@ TEST_F(LaterViewingWindow, LeavingAWritingWindowHidesTheSteppingOfBothUntilAnEnd
     }
 }
 
-TEST_F(LaterViewingWindow, LeadsToItsBiometryAndReport) {
+TEST_F(LaterViewingWindow, LeadsToItsBiometry) {
     addLater(2, 1, "10/01/2002");
     Form10& form = viewLastLater();
     press(form.CmdBiometrie);
     press(form.Biometrie);
     EXPECT_EQ(unknown_, QStringList({"Form12", "Form12"}));
-}
-
-TEST_F(LaterViewingWindow, HandsTheExamToTheAlbum) {
-    desk().add("Form20", [this] { return std::make_unique<PictureWindow>(desk(), "Form20"); });
-    addLater(2, 4, "10/01/2002");
-    press(viewLastLater().Command2);
-    const auto& album = static_cast<PictureWindow&>(desk().at("Form20"));
-    EXPECT_TRUE(album.shown());
-    EXPECT_EQ(album.TxtRechNom.text(), "DUPONT");
-    EXPECT_EQ(album.TxtRechDate.text(), "10/01/2002");
-    EXPECT_EQ(album.TxtRechNumEcho.text(), "4");
 }
 
 TEST_F(LaterViewingWindow, SteppingClosesItsBiometryAndCurvesAndACorrectionDoesNot) {
@@ -539,12 +418,6 @@ TEST_F(LaterViewingWindow, AWritingWindowClosesTheBiometryAsItGoes) {
     press(desk().at<Form8>().CmdQuitter);
     EXPECT_FALSE(loaded("Form12") || loaded("Form13"));
     EXPECT_TRUE(shown("Form10"));
-}
-
-TEST_F(LaterViewingWindow, OpensTheHelpBesideTheProgram) {
-    addLater(2, 1, "10/01/2002");
-    press(viewLastLater().Aide);
-    EXPECT_EQ(world_.help.shown, QStringList({world_.folder.path() + "/VERANOX.HLP"}));
 }
 
 }  // namespace

@@ -14,11 +14,6 @@ protected:
         addExam(2, 2, "11/02/2002", {{"TYPECHO", "1"}, {"NBRE", "1"}, {"LCC", "45"}});
         addExam(2, 3, "12/03/2002", {{"TYPECHO", "1"}, {"NBRE", "1"}, {"LCC", "65"}});
     }
-    void settingsFile(const QByteArray& text) {
-        QFile file(world_.folder.filePath("Settings"));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-    }
 };
 
 TEST_F(ViewingWindow, ShowsEachFieldOfTheRecord) {
@@ -91,36 +86,6 @@ TEST_F(ViewingWindow, FillsWithoutTheWordsBehindTheAge) {
     EXPECT_EQ(form.LblAgeGesta.text(), "12,3");
 }
 
-TEST_F(ViewingWindow, TakesTheMarksOfTheSettingsFile) {
-    addExam(2, 1, "10/01/2002");
-    settingsFile("\"Faux\",\"Vrai\",\"Vrai\",\"Faux\",\"Faux\",\"Vrai\",\"Faux\"\r\n");
-    const Form6& form = viewLast();
-    EXPECT_FALSE(form.CptrD.checked());
-    EXPECT_TRUE(form.CptrM.checked());
-    EXPECT_FALSE(form.Intro.checked());
-}
-
-TEST_F(ViewingWindow, StartsDetailedWithIntroductionWhenThereIsNoFile) {
-    addExam(2, 1, "10/01/2002");
-    const Form6& form = viewLast();
-    EXPECT_TRUE(form.CptrD.checked());
-    EXPECT_FALSE(form.CptrM.checked());
-    EXPECT_TRUE(form.Intro.checked());
-}
-
-TEST_F(ViewingWindow, TheTwoStylesExcludeEachOtherAndTheIntroductionFlips) {
-    addExam(2, 1, "10/01/2002");
-    Form6& form = viewLast();
-    press(form.CptrM);
-    EXPECT_TRUE(form.CptrM.checked() && !form.CptrD.checked());
-    press(form.CptrD);
-    EXPECT_TRUE(form.CptrD.checked() && !form.CptrM.checked());
-    press(form.Intro);
-    EXPECT_FALSE(form.Intro.checked());
-    press(form.Intro);
-    EXPECT_TRUE(form.Intro.checked());
-}
-
 TEST_F(ViewingWindow, ClosingKeepsTheMarksInTheFileAndTheMenuEntryDoesNot) {
     addExam(2, 1, "10/01/2002");
     press(viewLast().CptrM);
@@ -151,33 +116,6 @@ TEST_F(ViewingWindow, TheNumberOfEmbryosSetsTheButtons) {
     EXPECT_FALSE(form.Frame5.visible());
 }
 
-TEST_F(ViewingWindow, AButtonBringsAnEmbryoInViewAndSteppingIsOfferedWithTheFirstAlone) {
-    addExam(2, 1, "10/01/2002", {{"TYPECHO", "1"}, {"NBRE", "3"}});
-    Form6& form = viewLast();
-    press(form.CmdJ2);
-    EXPECT_TRUE(form.FrameJ2.visible() && !form.FrameJ1.visible() && !form.FrameJ3.visible());
-    EXPECT_EQ(form.Frame5.back(), 0xFFFFFFU);
-    EXPECT_FALSE(form.Frame12.visible());
-    press(form.CmdJ3);
-    EXPECT_TRUE(form.FrameJ3.visible());
-    EXPECT_EQ(form.Frame5.back(), 0xFFC0C0U);
-    EXPECT_FALSE(form.Frame12.visible());
-    press(form.CmdJ1);
-    EXPECT_TRUE(form.FrameJ1.visible());
-    EXPECT_EQ(form.Frame5.back(), 0xC0FFFFU);
-    EXPECT_TRUE(form.Frame12.visible());
-}
-
-TEST_F(ViewingWindow, ALoneEmbryoIsNeverLeftOutOfSight) {
-    addExam(2, 1, "10/01/2002", {{"TYPECHO", "1"}, {"NBRE", "2"}});
-    addExam(3, 1, "10/01/2002", {{"TYPECHO", "1"}, {"NBRE", "1"}, {"LCC", "55"}});
-    press(viewLast().CmdJ2);
-    press(dossierOf("MARTIN").HlbCptDer);
-    EXPECT_TRUE(view().FrameJ1.visible());
-    EXPECT_FALSE(view().FrameJ2.visible());
-    EXPECT_TRUE(view().Frame12.visible());
-}
-
 TEST_F(ViewingWindow, StepsThroughTheDossierAndStopsAtItsEnds) {
     threeExams();
     addExam(3, 9, "10/01/2002");
@@ -195,29 +133,6 @@ TEST_F(ViewingWindow, StepsThroughTheDossierAndStopsAtItsEnds) {
     press(form.CmdDer);
     EXPECT_EQ(form.LblNumEcho.text(), "3");
     EXPECT_TRUE(world_.boxes.said.isEmpty());
-}
-
-TEST_F(ViewingWindow, NeverShowsOnePatientsExamUnderAnothersName) {
-    addExam(2, 1, "10/01/2002");
-    addExam(3, 1, "11/01/2002");
-    viewLast("DUPONT");
-    press(dossierOf("MARTIN").HlbCptDer);
-    EXPECT_EQ(view().LblDatExam.text(), "11/01/2002");
-    EXPECT_EQ(view().LblNom.text(), "MARTIN");
-    EXPECT_EQ(view().LblNumInt.text(), "3");
-}
-
-TEST_F(ViewingWindow, ADeletionAsksTwice) {
-    threeExams();
-    viewLast();
-    for (const QList<bool>& answers : {QList<bool>{false}, QList<bool>{true, false}}) {
-        world_.boxes.answers = answers;
-        press(view().CmdSupprime);
-        EXPECT_EQ(stored(2, "NUMECHO").size(), 3);
-        EXPECT_TRUE(shown("Form6"));
-    }
-    EXPECT_EQ(world_.boxes.asked.last(), "ATTENTION cette Echographie va être supprimée. CONTINUER ?");
-    EXPECT_EQ(world_.boxes.asked.first(), "Voulez vous vraiment SUPPRIMER cette Echographie ?");
 }
 
 TEST_F(ViewingWindow, ADeletionLeavesTheDossierWindowOnThePatients) {
@@ -266,51 +181,6 @@ TEST_F(ViewingWindow, EachExitUnloadsTheWindowsAndBringsAFreshDossierWindow) {
         EXPECT_EQ(state_.Rs.text("Nom"), "DOSSIER MODELE");
     }
     EXPECT_TRUE(world_.boxes.reported.isEmpty());
-}
-
-class SearchFields final : public forms::Form {
-public:
-    explicit SearchFields(forms::Desk& desk) : Form(desk, "Form20", {}) {}
-    forms::TextBox TxtRechNom{*this, "TxtRechNom"};
-    forms::TextBox TxtRechDate{*this, "TxtRechDate"};
-    forms::TextBox TxtRechNumEcho{*this, "TxtRechNumEcho"};
-};
-
-TEST_F(ViewingWindow, GivesTheAlbumWhatToSearchFor) {
-    desk().add("Form20", [this] { return std::make_unique<SearchFields>(desk()); });
-    threeExams();
-    viewLast();
-    press(view().Command3);
-    const auto& album = static_cast<SearchFields&>(desk().at("Form20"));
-    EXPECT_TRUE(album.shown());
-    EXPECT_EQ(album.TxtRechNom.text(), "DUPONT");
-    EXPECT_EQ(album.TxtRechDate.text(), "12/03/2002");
-    EXPECT_EQ(album.TxtRechNumEcho.text(), "3");
-}
-
-TEST_F(ViewingWindow, OpensANewExamOfEitherFamily) {
-    threeExams();
-    viewLast();
-    press(view().Hlb1T);
-    EXPECT_EQ(desk().at<Form5>().sheet.TxtNumEcho.text(), "4");
-    EXPECT_TRUE(shown("Form6"));
-}
-
-TEST_F(ViewingWindow, HandsThePatientAndTheExamToTheAlbum) {
-    desk().add("Form20", [this] { return std::make_unique<PictureWindow>(desk(), "Form20"); });
-    threeExams();
-    press(viewLast().Command3);
-    EXPECT_TRUE(shown("Form20"));
-    const auto& album = static_cast<PictureWindow&>(desk().at("Form20"));
-    EXPECT_EQ(album.TxtRechNom.text(), "DUPONT");
-    EXPECT_EQ(album.TxtRechDate.text(), "12/03/2002");
-    EXPECT_EQ(album.TxtRechNumEcho.text(), "3");
-}
-
-TEST_F(ViewingWindow, OpensTheHelpBesideTheProgram) {
-    threeExams();
-    press(viewLast().Aide);
-    EXPECT_EQ(world_.help.shown, QStringList({world_.folder.path() + "/VERANOX.HLP"}));
 }
 
 }  // namespace

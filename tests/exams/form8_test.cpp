@@ -21,15 +21,6 @@ protected:
             option.click();
         });
     }
-    void settingsFile(const QByteArray& text) {
-        QFile file(world_.folder.filePath("Settings"));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-    }
-    QByteArray settings() {
-        QFile file(world_.folder.filePath("Settings"));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     /// The zones of the published list, stored in an order that is neither theirs nor that of their phrases.
     void storeZones() {
         phrase(29, "d1", 1);
