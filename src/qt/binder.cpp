@@ -21,6 +21,7 @@
 #include "forms/desk.h"
 #include "qt/calendar_view.h"
 #include "qt/drawing_view.h"
+#include "qt/elided_label.h"
 #include "qt/ink_icon.h"
 #include "qt/key_filter.h"
 #include "qt/list_model.h"
@@ -173,7 +174,14 @@ Button* bindSwitch(FormWindow& window, forms::Switch& control, Button* button, s
 }  // namespace
 
 QLabel* Binder::label(forms::Label& control) {
-    auto* label = new QLabel;
+    return bindLabel(control, new QLabel);
+}
+
+QLabel* Binder::elidedLabel(forms::Label& control) {
+    return bindLabel(control, new ElidedLabel);
+}
+
+QLabel* Binder::bindLabel(forms::Label& control, QLabel* label) {
     label->setTextFormat(Qt::PlainText);
     auto sync = [&control, label](Aspect, int) { label->setText(control.text()); };
     window_.bind(control, label, sync);

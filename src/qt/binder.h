@@ -37,6 +37,8 @@ public:
     FormWindow& window() const { return window_; }
 
     QLabel* label(forms::Label& control);
+    /// The same on one line, cut short where there is no room for all of it.
+    QLabel* elidedLabel(forms::Label& control);
     /// A text box of one line, or of several; `caption` is what a screen reader calls it.
     QLineEdit* line(forms::TextBox& control, const QString& caption);
     QPlainTextEdit* memo(forms::TextBox& control, const QString& caption);
@@ -63,6 +65,7 @@ public:
     QWidget* plain(forms::Control& control, QWidget* widget);
 
 private:
+    QLabel* bindLabel(forms::Label& control, QLabel* label);
     void addEntry(QWidget* parent, forms::Menu& control);
 
     template <class Edit>

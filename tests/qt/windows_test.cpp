@@ -122,6 +122,26 @@ TEST_F(AllWindows, FitASmallScreen) {
     }
 }
 
+TEST_F(AllWindows, FitASmallScreenWhateverThePatientAndTheDeviceAreCalled) {
+    program_.desk().act([&] {
+        for (const char* name :
+             {"Form5", "Form6", "Form7", "Form8", "Form10", "Form11", "Form16", "Form17", "Form18"}) {
+            const forms::Form* form = program_.desk().peek(name);
+            const auto say = [form](const char16_t* label, const QString& text) {
+                static_cast<forms::Label*>(form->find(label))->setText(text);
+            };
+            say(u"LblNom", QStringLiteral("DE LA TOURELLE-MONTBRISSON EPOUSE VAN DER BRUGGHEN"));
+            say(u"LblPrenom", QStringLiteral("MARIE-ANTOINETTE JOSEPHINE"));
+            say(u"LblMachine", QStringLiteral("Orivanne 8 avec sonde abdominale et sonde vaginale"));
+            say(u"LblDateCirc", QStringLiteral("mise en service le 12 septembre 2001"));
+        }
+    });
+    for (forms::Form* form : program_.desk().loaded()) {
+        EXPECT_LE(stage_.windowOf(*form)->minimumSizeHint().width(), kSmallScreen.width())
+            << form->name().toStdString();
+    }
+}
+
 TEST_F(AllWindows, NameEachFieldForAScreenReader) {
     forEachControl([](const Control& control, const QWidget* widget, const std::string& name) {
         if (control.kind() == Kind::TextBox || control.kind() == Kind::ListBox || control.kind() == Kind::ComboBox) {
@@ -181,6 +201,58 @@ TEST_F(AllWindows, CaptionEachFieldOfTheLaterExams) {
         for (const auto& [control, caption] : strip) {
             EXPECT_TRUE(captioned(stage_.windowOf(*form)->widgetOf(*form->find(control)), caption)) << name << caption;
         }
+    }
+}
+
+TEST_F(AllWindows, CaptionEachFieldOfTheFirstTrimester) {
+    std::vector<std::pair<int, const char*>> captions{{0, "IMC"},
+                                                      {1, "Opérateur"},
+                                                      {2, "DDR"},
+                                                      {3, "DDG Théorique"},
+                                                      {4, "DDG US"},
+                                                      {5, "Modalité d'examen"},
+                                                      {6, "Conditions d'examen"},
+                                                      {7, "Indication"},
+                                                      {8, "Utérus"},
+                                                      {9, "Annexes"},
+                                                      {10, "Douglas"},
+                                                      {11, "Nombre"},
+                                                      {12, "Situation"},
+                                                      {13, "Dimensions"},
+                                                      {14, "Aspect"},
+                                                      {15, "Nbr. d'Embryons"},
+                                                      {24, "Liquide Amnio"},
+                                                      {25, "Trophoblaste  Placenta"},
+                                                      {26, "Conclusion"}};
+    for (const int first : {16, 27, 35}) {
+        int index = first;
+        for (const char* caption : {"M.A.", "Activ. Cardiaque", "LCC (mm)", "BIP (mm)", "Fémur (mm)", "Clarté Nucale",
+                                    "OPN", "Morphologie"}) {
+            captions.emplace_back(index++, caption);
+        }
+    }
+    ASSERT_EQ(captions.size(), 43U);
+    const std::vector<std::pair<const char16_t*, const char*>> strip{{u"LblNumInt", "N° Int"},
+                                                                     {u"TxtNumEcho", "Echographie N°"},
+                                                                     {u"TxtDate", "Date de l'Examen"},
+                                                                     {u"LblAgeGesta", "Age Gestationnel"},
+                                                                     {u"TxtPds", "Poids"},
+                                                                     {u"TxtTaille", "Taille"}};
+    for (const char* name : {"Form5", "Form7"}) {
+        const forms::Form* form = program_.desk().peek(name);
+        const FormWindow* window = stage_.windowOf(*form);
+        for (const auto& [index, caption] : captions) {
+            const QWidget* field = window->widgetOf(*form->find(u"Txt1Ter", index));
+            EXPECT_TRUE(captioned(field, caption)) << name << ' ' << index;
+            EXPECT_EQ(field->accessibleName(), caption) << name << ' ' << index;
+        }
+        for (const auto& [control, caption] : strip) {
+            EXPECT_TRUE(captioned(window->widgetOf(*form->find(control)), caption)) << name << caption;
+        }
+        const QList<QLabel*> labels = window->findChildren<QLabel*>();
+        EXPECT_TRUE(std::ranges::any_of(labels, [](const QLabel* label) {
+            return label->text() == u"Echographie du 1er Trimestre";
+        })) << name;
     }
 }
 

@@ -40,11 +40,15 @@ void ExamStrip::nextLine() {
 
 void ExamStrip::identity(forms::Label& surname, forms::Label& firstName, forms::Label& number) {
     for (forms::Label* name : {&surname, &firstName}) {
-        QLabel* label = bind_.label(*name);
+        QLabel* label = bind_.elidedLabel(*name);
         label->setFont(theme::headingFont());
         line_->insertWidget(line_->count() - 1, label);
     }
-    value(QStringLiteral("N° Int"), bind_.label(number));
+    value(QStringLiteral("N° Int"), number);
+}
+
+void ExamStrip::value(const QString& caption, forms::Label& shown) {
+    value(caption, bind_.elidedLabel(shown));
 }
 
 void ExamStrip::value(const QString& caption, QWidget* value) {

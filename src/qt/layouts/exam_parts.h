@@ -28,6 +28,7 @@ public:
     void identity(forms::Label& surname, forms::Label& firstName, forms::Label& number);
     /// A caption and its value behind what already stands on the line.
     void value(const QString& caption, QWidget* value);
+    void value(const QString& caption, forms::Label& shown);
     /// A widget that needs no caption.
     void add(QWidget* widget);
     void nextLine();

@@ -14,6 +14,8 @@ namespace {
 
 using theme::kGrid;
 
+const QString kHeading = QStringLiteral("Echographie du 1er Trimestre");
+
 // The fields that hold texts of several lines.
 const std::set<int> kLongTexts{7, 8, 9, 10, 23, 24, 25, 26, 34, 42};
 
@@ -106,16 +108,18 @@ private:
 
 void layOutForm5(exams::Form5& form, FormWindow& window) {
     FirstTrimesterLayout layout(form.sheet, window, {&form.TxtCa1, &form.TxtCa2, &form.TxtCa3});
-    layout.build(
-        {.kind = &form.sheet.TxtTypecho, .ultrasound = &form.Command2, .age = &form.sheet.LblAgeGesta, .mode = {}},
-        {&form.CmdEnregis, &form.CmdPhotos, &form.CmdQuitter});
+    layout.build({.kind = &form.sheet.TxtTypecho,
+                  .ultrasound = &form.Command2,
+                  .age = &form.sheet.LblAgeGesta,
+                  .heading = kHeading},
+                 {&form.CmdEnregis, &form.CmdPhotos, &form.CmdQuitter});
     layout.pressWithAlt(Qt::Key_D, form.Command2);
     layout.putAside({&form.Label31, &form.TxtNumFoet, &form.Label32});
 }
 
 void layOutForm7(exams::Form7& form, FormWindow& window) {
     FirstTrimesterLayout layout(form.sheet, window, {});
-    layout.build({.kind = &form.sheet.TxtTypecho, .age = &form.sheet.LblAgeGesta, .mode = {}},
+    layout.build({.kind = &form.sheet.TxtTypecho, .age = &form.sheet.LblAgeGesta, .heading = kHeading},
                  {&form.CmdModifs, &form.CmdQuitter});
     layout.pressWithAlt(Qt::Key_E, form.CmdModifs);
     layout.pressWithAlt(Qt::Key_Q, form.CmdQuitter);

@@ -13,8 +13,8 @@ QWidget* gynaecologyStrip(Binder& bind, Window& shown) {
     const QString date = QStringLiteral("Date de l'Examen");
     strip.value(number, narrowLine(bind, shown.TxtNumEcho, number, 3));
     strip.value(date, narrowLine(bind, shown.TxtDate, date, 10));
-    strip.value(QStringLiteral("Appareil"), bind.label(shown.LblMachine));
-    strip.value(QStringLiteral("en service"), bind.label(shown.LblDateCirc));
+    strip.value(QStringLiteral("Appareil"), shown.LblMachine);
+    strip.value(QStringLiteral("en service"), shown.LblDateCirc);
     return strip.widget();
 }
 

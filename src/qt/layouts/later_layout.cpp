@@ -108,7 +108,7 @@ private:
 
 void layOutForm8(exams::Form8& form, FormWindow& window) {
     LaterLayout layout(form.sheet, window);
-    layout.build({.kind = &form.TxtTypecho, .number = &form.lblNumEcho, .age = &form.LblAgeGesta, .mode = {}},
+    layout.build({.kind = &form.TxtTypecho, .number = &form.lblNumEcho, .age = &form.LblAgeGesta},
                  {&form.Option1, &form.Option2, &form.Option3},
                  {&form.CmdZoneA, &form.CmdZoneB, &form.CmdZoneC, &form.CmdZoneD},
                  {&form.CmdEnregis, &form.CmdPhotos, &form.CmdQuitter}, layout.bind().menuBar());

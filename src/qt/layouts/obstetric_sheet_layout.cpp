@@ -26,6 +26,11 @@ void ObstetricSheetLayout::build(const Strip& parts, const Sheet& sheet, const s
     if (menu) {
         all->setMenuBar(menu);
     }
+    if (!parts.heading.isEmpty()) {
+        auto* heading = new QLabel(parts.heading);
+        heading->setFont(theme::headingFont());
+        all->addWidget(heading);
+    }
     all->addWidget(strip(parts));
     auto* body = newRow();
     body->setSpacing(2 * kGrid);
@@ -50,14 +55,8 @@ QWidget* ObstetricSheetLayout::strip(const Strip& parts) {
     if (parts.kind) {
         strip.value(QStringLiteral("Type"), narrow(*parts.kind, QStringLiteral("Type"), 2));
     }
-    strip.value(QStringLiteral("Appareil"), bind_.label(sheet_.LblMachine));
-    strip.value(QStringLiteral("en service"), bind_.label(sheet_.LblDateCirc));
-    if (!parts.mode.isEmpty()) {
-        auto* mode = new QLabel(parts.mode);
-        mode->setFont(theme::headingFont());
-        mode->setContentsMargins(2 * kGrid, 0, 0, 0);
-        strip.add(mode);
-    }
+    strip.value(QStringLiteral("Appareil"), sheet_.LblMachine);
+    strip.value(QStringLiteral("en service"), sheet_.LblDateCirc);
     strip.nextLine();
     return dating(parts, strip);
 }
@@ -74,11 +73,17 @@ QWidget* ObstetricSheetLayout::dating(const Strip& parts, ExamStrip& strip) {
     if (parts.age->kind() == forms::Kind::TextBox) {
         strip.value(age, narrow(static_cast<forms::TextBox&>(*parts.age), age, 5));
     } else {
-        strip.value(age, bind_.label(static_cast<forms::Label&>(*parts.age)));
+        strip.value(age, static_cast<forms::Label&>(*parts.age));
     }
     strip.value(QStringLiteral("Poids"), narrow(sheet_.TxtPds, QStringLiteral("Poids"), 4));
     strip.value(QStringLiteral("Taille"), narrow(sheet_.TxtTaille, QStringLiteral("Taille"), 4));
     strip.value(caption(kBodyMass), narrow(sheet_.fields(kBodyMass), caption(kBodyMass), 5));
+    if (!parts.mode.isEmpty()) {
+        auto* mode = new QLabel(parts.mode);
+        mode->setFont(theme::headingFont());
+        mode->setContentsMargins(2 * kGrid, 0, 0, 0);
+        strip.add(mode);
+    }
     return strip.widget();
 }
 

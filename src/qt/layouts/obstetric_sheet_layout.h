@@ -19,7 +19,9 @@ public:
         forms::Label* number = nullptr;
         forms::Button* ultrasound = nullptr;
         forms::TextControl* age = nullptr;
-        QString mode;
+        QString mode = {};
+        /// Stands above the strip, where the title of the window doesn't say it.
+        QString heading = {};
     };
 
     /// `rows` name the fields; those of `longTexts` take several lines.

@@ -15,16 +15,16 @@ QWidget* viewStrip(Binder& bind, exams::ObstetricView& form, forms::Label* headi
     if (heading) {
         strip.add(pageTitle(bind, *heading));
     }
-    strip.value(QStringLiteral("Echographie N°"), bind.label(form.LblNumEcho));
-    strip.value(QStringLiteral("Date de l'Examen"), bind.label(form.LblDatExam));
-    strip.value(QStringLiteral("Age Gestationnel"), bind.label(form.LblAgeGesta));
+    strip.value(QStringLiteral("Echographie N°"), form.LblNumEcho);
+    strip.value(QStringLiteral("Date de l'Examen"), form.LblDatExam);
+    strip.value(QStringLiteral("Age Gestationnel"), form.LblAgeGesta);
     strip.nextLine();
-    strip.value(QStringLiteral("DDR"), bind.label(form.LblDDR));
-    strip.value(QStringLiteral("DDG Théorique"), bind.label(form.LblDG));
-    strip.value(QStringLiteral("DDG US"), bind.label(form.LblDGUS));
-    strip.value(QStringLiteral("IMC"), bind.label(form.LblIMC));
-    strip.value(QStringLiteral("Appareil"), bind.label(form.LblMachine));
-    strip.value(QStringLiteral("en service"), bind.label(form.LblDateCirc));
+    strip.value(QStringLiteral("DDR"), form.LblDDR);
+    strip.value(QStringLiteral("DDG Théorique"), form.LblDG);
+    strip.value(QStringLiteral("DDG US"), form.LblDGUS);
+    strip.value(QStringLiteral("IMC"), form.LblIMC);
+    strip.value(QStringLiteral("Appareil"), form.LblMachine);
+    strip.value(QStringLiteral("en service"), form.LblDateCirc);
     return strip.widget();
 }
 
