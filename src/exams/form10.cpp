@@ -167,6 +167,7 @@ void Form10::display() {
 }
 
 void Form10::refillAfterCorrection() {
+    copyIdentity();
     showFields(*this, kShownFields, record());
     showPanelAgain(TxtNbrE.text());
 }

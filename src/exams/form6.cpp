@@ -115,6 +115,7 @@ void Form6::display() {
 }
 
 void Form6::refillAfterCorrection() {
+    AFFCIVILITES();
     showFields(*this, kShownFields, record());
     LblAgeGesta.setText({});
     showPanelAgain(LblNbrE.text());

@@ -479,6 +479,19 @@ TEST_F(LaterCorrectionWindow, AnOvertypedNumberShowsThatSameRecord) {
     EXPECT_EQ(laterView().LblNumEcho.text(), "3");
 }
 
+// The dossier window can be moved on behind the viewing window, and the correction takes the dossier that is open.
+TEST_F(LaterCorrectionWindow, TheViewNamesThePatientWhoseExamWasCorrected) {
+    addLater(3, 3, "20/03/2002", {{"NBRE", "1"}});
+    viewLastLater("DUPONT");
+    dossierOf("MARTIN");
+    write(correctLater().sheet.Txt2T(32), "de Anne");
+    save();
+    EXPECT_EQ(laterView().TxtConclu1.text(), "de Anne");
+    EXPECT_EQ(laterView().LblNom.text(), "MARTIN");
+    EXPECT_EQ(laterView().LblPrenom.text(), "Anne");
+    EXPECT_EQ(laterView().LblNumInt.text(), "3");
+}
+
 TEST_F(LaterCorrectionWindow, OfTwoExamsOfOneNumberTheFirstIsCorrected) {
     addLater(3, 1, "10/01/2002", {{"CONCLU1", "premier"}});
     addLater(3, 1, "11/01/2002", {{"CONCLU1", "second"}});

@@ -231,6 +231,19 @@ TEST_F(CorrectionWindow, AnOvertypedNumberShowsThatSameRecord) {
     EXPECT_EQ(view().LblNumEcho.text(), "3");
 }
 
+// The dossier window can be moved on behind the viewing window, and the correction takes the dossier that is open.
+TEST_F(CorrectionWindow, TheViewNamesThePatientWhoseExamWasCorrected) {
+    addExam(3, 3, "20/03/2002");
+    viewLast("DUPONT");
+    dossierOf("MARTIN");
+    write(correct().sheet.Txt1Ter(26), "de Anne");
+    save(true);
+    EXPECT_EQ(view().TxtConclu1.text(), "de Anne");
+    EXPECT_EQ(view().LblNom.text(), "MARTIN");
+    EXPECT_EQ(view().LblPrenom.text(), "Anne");
+    EXPECT_EQ(view().LblNumInt.text(), "3");
+}
+
 TEST_F(CorrectionWindow, AStoreErrorKeepsTheWindowAndItsEntries) {
     Form7& form = openOnSecond();
     write(form.sheet.TxtNumEcho, "deux");
