@@ -57,6 +57,7 @@ void Desk::show(const QString& name) {
     if (!place || place->unloading || place->form.get() != &form) {
         return;
     }
+    form.showing();
     form.shown_ = true;
     if (stage_) {
         stage_->formShown(form);

@@ -58,6 +58,8 @@ public:
 protected:
     /// Runs once, at the first mention of the window, before anything shows. A failure leaves the window unloaded.
     virtual void load() {}
+    /// Runs each time the window is asked to come up, before it does: a loaded one need never be seen.
+    virtual void showing() {}
     /// Runs as the window is unloaded, however that comes about, while its controls can still be read.
     virtual void unloading() {}
 

@@ -76,7 +76,14 @@ void Form19::wireWall() {
 
 void Form19::load() {
     takeIdentity();
-    around_.pictureSource.start([this](const QImage& frame) { ezVidCap1.setPicture(frame); });
+}
+
+// The album loads the window for its heading alone: that is no reason to hold the card.
+void Form19::showing() {
+    if (!live_) {
+        live_ = true;
+        around_.pictureSource.start([this](const QImage& frame) { ezVidCap1.setPicture(frame); });
+    }
 }
 
 void Form19::unloading() {

@@ -78,6 +78,7 @@ private:
     void wireFiles();
     void wireWall();
     void load() override;
+    void showing() override;
     void unloading() override;
 
     void select(int slot);
@@ -97,6 +98,7 @@ private:
     int places() const;
 
     ports::Surroundings& around_;
+    bool live_ = false;
     std::int16_t counter_ = 0;
     std::vector<QImage> selection_;
     /// The name that was last chosen in the dialog.

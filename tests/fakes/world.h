@@ -190,6 +190,7 @@ public:
 class PictureSource final : public ports::PictureSource {
 public:
     void start(std::function<void(const QImage&)> live) override {
+        ++starts;
         live_ = std::move(live);
         show(picture);
     }
@@ -205,6 +206,7 @@ public:
         }
     }
     QImage picture;
+    int starts = 0;
 
 private:
     std::function<void(const QImage&)> live_;

@@ -105,6 +105,15 @@ TEST_F(DeskRules, AHiddenWindowKeepsItsState) {
     EXPECT_EQ(log_, QStringList({"A load", "A shown", "A hidden"}));
 }
 
+TEST_F(DeskRules, AWindowIsToldEachTimeItComesUpAndNotWhenItIsLoadedAlone) {
+    prepare = [this](SampleForm& made) { made.onShowing = [this] { log_ << "A showing"; }; };
+    form("A");
+    EXPECT_EQ(log_, QStringList({"A load"}));
+    desk_.show("A");
+    desk_.show("A");
+    EXPECT_EQ(log_, QStringList({"A load", "A showing", "A shown", "A showing", "A shown"}));
+}
+
 TEST_F(DeskRules, AMentionDuringItsUnloadingReachesTheSameInstance) {
     SampleForm& closing = form("A");
     closing.Text1.setText("encore");

@@ -33,6 +33,7 @@ public:
     Array<Frame> Lone{*this, "Lone", 3, 3};
 
     std::function<void()> onLoad = [] {};
+    std::function<void()> onShowing = [] {};
     std::function<void()> onUnloading = [] {};
 
     ~SampleForm() override { log_ << name() + QStringLiteral(" destroyed"); }
@@ -41,6 +42,7 @@ public:
         log_ << name() + QStringLiteral(" load");
         onLoad();
     }
+    void showing() override { onShowing(); }
     void unloading() override {
         log_ << name() + QStringLiteral(" unloading");
         onUnloading();

@@ -92,6 +92,21 @@ TEST_F(Capture, TheLivePictureRunsAsLongAsTheWindow) {
     EXPECT_FALSE(world_.pictureSource.running());
 }
 
+TEST_F(Capture, TheLivePictureDoesntRunInAWindowThatNobodySees) {
+    world_.pictureSource.picture = sample(72, 58);
+    const Form19& form = desk().at<Form19>();
+    EXPECT_FALSE(world_.pictureSource.running());
+    desk().act([this] { desk().show("Form19"); });
+    EXPECT_TRUE(world_.pictureSource.running());
+    EXPECT_EQ(form.ezVidCap1.picture(), sample(72, 58));
+}
+
+TEST_F(Capture, TheLivePictureGoesOnWhereTheWindowIsShownAgain) {
+    open();
+    open();
+    EXPECT_EQ(world_.pictureSource.starts, 1);
+}
+
 TEST_F(Capture, GoesIntoTheSlotsInTheirOrderAndIntoTheirFiles) {
     Form19& form = open();
     captures(form, 3);
