@@ -34,12 +34,20 @@ class Page:
         assert (kind, depth) == (b"P6", b"255")
         self.width, self.height = map(int, size.split())
 
-    def rectangle(self, color, tolerance=10):
+    def near(self, x, y, color, tolerance=10):
+        at = 3 * (y * self.width + x)
+        return all(abs(self.bytes[at + i] - color[i]) <= tolerance for i in range(3))
+
+    def is_all(self, place, color):
+        """Whether each pixel of a rectangle (left, top, width, height in mm) is of about this colour."""
+        left, top, width, height = (round(edge * self.per_mm) for edge in place)
+        return all(self.near(x, y, color) for y in range(top, top + height) for x in range(left, left + width))
+
+    def rectangle(self, color):
         """Left, top, width and height in mm of all pixels of about this colour, None if there is none."""
-        near = lambda at: all(abs(self.bytes[at + i] - color[i]) <= tolerance for i in range(3))  # noqa: E731
         lefts, tops = [], []
         for y in range(self.height):
-            row = [x for x in range(self.width) if near(3 * (y * self.width + x))]
+            row = [x for x in range(self.width) if self.near(x, y, color)]
             if row:
                 lefts += [row[0], row[-1]]
                 tops.append(y)

@@ -144,6 +144,7 @@ def test_a_picture_opens_large_by_three_ways(album):
     ways = [
         lambda: album.dblclick("Form20.Image1(1)"),
         lambda: album.dblclick("Form20.List4", row=1),
+        lambda: album.key("Form20.List4", key="Return"),
         lambda: album.click("Form20.ListNom", row=1),
         lambda: album.key("Form20.ListNom", key="Return"),
     ]
@@ -157,6 +158,21 @@ def test_a_picture_opens_large_by_three_ways(album):
         album.click("Form20.CmdFermer")
         assert not album.get("Form20.Image2")["onscreen"]
         assert album.get("Form20.Image1(0)")["onscreen"]
+
+
+def test_a_picture_of_the_wall_opens_and_closes_by_the_keyboard(album):
+    class_records(album, 25)
+    album.click("Form20.Command1")
+    album.click("Form20.CmdAffiche")
+    album.key("Form20.Image1(1)", key="Return")
+    assert album.text("Form20.LblFilename") == "p2.bmp"
+    assert album.get("Form20.Image2")["onscreen"]
+    # The same key once more closes it: it doesn't turn the page behind it.
+    assert album.focused()["control"] == "Form20.CmdFermer"
+    album.key("Form20.CmdFermer", key="Return")
+    assert not album.get("Form20.Image2")["onscreen"]
+    assert album.focused()["control"] == "Form20.Image1(1)"
+    assert wall(album)[0] == "p1.bmp"
 
 
 def test_a_deleted_file_leaves_its_place_and_then_the_album(album):
@@ -204,7 +220,7 @@ def test_a_word_is_added_by_a_double_click_and_removed_by_the_menu(album):
     album.answer(**{"with": ["yes"]})
     album.dblclick("Form20.CmbDiagno")
     assert album.said() == ["Voulez vous vraiment ajouter Fibrome comme critère diagnostique ?"]
-    assert album.boxes[0]["icon"] == "question"
+    assert (album.boxes[0]["icon"], album.boxes[0]["title"]) == ("question", "Attention")
     assert album.items("Form20.CmbRechDiag") == ["Normal", "Kyste de l'ovaire"]
     album.close(form="Form20")
     album.click("Form1.Command6")
@@ -213,6 +229,7 @@ def test_a_word_is_added_by_a_double_click_and_removed_by_the_menu(album):
     album.answer(**{"with": ["yes"]})
     album.click("Form20.SDiagno")
     assert album.said() == ["Voulez vous vraiment supprimer Fibrome comme critère diagnostique ?"]
+    assert (album.boxes[0]["icon"], album.boxes[0]["title"]) == ("question", "Attention")
     assert album.items("Form20.CmbDiagno") == ["Normal", "Kyste de l'ovaire"]
 
 

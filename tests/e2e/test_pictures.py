@@ -197,6 +197,23 @@ def test_a_double_click_shows_the_picture_and_doesnt_select_it(wall):
     assert shown_marks(wall) == [1]
 
 
+def test_a_picture_is_selected_enlarged_and_closed_by_the_keyboard(wall):
+    capture(wall, 1, 2)
+    wall.key("Form19.Image2(2)", key="Space")
+    assert shown_marks(wall) == [2]
+    for enter in ("Return", "Enter"):
+        wall.key("Form19.Image2(2)", key=enter)
+        assert wall.boxes == []
+        assert picture(wall, "Form19.Image3") == {"width": 360, "height": 288}
+        assert wall.get("Form19.Image3")["onscreen"]
+        # The same key once more closes the view: it prints nothing, nor does it report that pictures lack.
+        assert wall.focused()["control"] == "Form19.Command6"
+        wall.key("Form19.Command6", key=enter)
+        assert wall.boxes == []
+        assert not wall.get("Form19.Image3")["onscreen"]
+        assert wall.focused()["control"] == "Form19.Image2(2)"
+
+
 def test_initialising_anew_goes_on_behind_the_last_place(wall):
     capture(wall, 1, 2)
     wall.click("Form19.Image2(1)")
@@ -208,6 +225,38 @@ def test_initialising_anew_goes_on_behind_the_last_place(wall):
     assert picture(wall, "Form19.Image2(3)") is not None
 
 
+def printed(port):
+    pdf = port.folder / "planche.pdf"
+    port.printer(file=str(pdf))
+    port.click("Form19.Command1")
+    assert port.boxes == []
+    return Page(pdf)
+
+
+def test_pictures_beyond_the_number_of_the_sheet_are_not_printed(wall):
+    capture(wall, 1, 2, 3, 4)
+    wall.click("Form19.Option4")
+    for slot in (4, 2, 3, 1):
+        wall.click(f"Form19.Image2({slot})")
+    wall.click("Form19.Option2")
+    page = printed(wall)
+    assert page.rectangle(COLORS[3]) == pytest.approx((25, 30, 155, 115), abs=0.5)
+    assert page.rectangle(COLORS[1]) == pytest.approx((25, 152, 155, 115), abs=0.5)
+    assert page.rectangle(COLORS[2]) is None
+    assert page.rectangle(COLORS[0]) is None
+
+
+def test_the_text_of_a_sheet_flows_behind_its_pictures(wall):
+    capture(wall, 1, 2)
+    for slot in (1, 2, 1, 2, 1, 2):
+        wall.click(f"Form19.Image2({slot})")
+    # Six pictures begin at 30 mm; the patient's line and the date stand there too, at the left edge.
+    wall.set("Form19.txtDatexam", text="M" * 20)
+    page = printed(wall)
+    assert page.is_all((6, 31, 93, 68), COLORS[0])
+    assert not page.is_all((0, 0, 100, 29), (255, 255, 255))
+
+
 @pytest.mark.parametrize("number", [2, 4, 6, 8])
 def test_a_sheet_has_its_pictures_where_they_belong(wall, number):
     width, height, places = PLACES[number]
@@ -216,11 +265,7 @@ def test_a_sheet_has_its_pictures_where_they_belong(wall, number):
     order = list(range(number, 0, -1))
     for slot in order:
         wall.click(f"Form19.Image2({slot})")
-    pdf = wall.folder / "planche.pdf"
-    wall.printer(file=str(pdf))
-    wall.click("Form19.Command1")
-    assert wall.boxes == []
-    page = Page(pdf)
+    page = printed(wall)
     for slot, (left, top) in zip(order, places):
         found = page.rectangle(COLORS[slot - 1])
         assert found == pytest.approx((left, top, width, height), abs=0.5), slot

@@ -1,7 +1,6 @@
 #include "qt/layouts/album_layout.h"
 
 #include <QComboBox>
-#include <QEvent>
 #include <QFormLayout>
 #include <QFrame>
 #include <QGridLayout>
@@ -32,28 +31,6 @@ constexpr int kTwipsPerPixel = 15;
 // The strips of the small page above and below its pictures.
 constexpr int kStripMargin = 8;
 constexpr int kStripHeight = 28;
-
-/// Takes a widget off the screen while the one in front of it is there.
-class Cover final : public QObject {
-public:
-    Cover(QWidget* front, QWidget* behind) : QObject(behind), behind_(behind) {
-        front->installEventFilter(this);
-        if (!front->isHidden()) {
-            behind->hide();
-        }
-    }
-
-protected:
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
-            behind_->setVisible(event->type() == QEvent::HideToParent);
-        }
-        return false;
-    }
-
-private:
-    QWidget* behind_;
-};
 
 /// The album: the search at the left, the wall in the middle, the picture in hand or the sheet at the right.
 class AlbumLayout {
@@ -118,9 +95,10 @@ private:
         auto* large = bind_.picture(form_.Image2, QStringLiteral("Cliché en grand"));
         views->addWidget(places, 0, 0);
         views->addWidget(large, 0, 0);
-        new Cover(large, places);
+        auto* below = underTheViews();
+        coverWhileSeen(places, large, window_.widgetOf(form_.CmdFermer));
         column->addLayout(views, 1);
-        column->addLayout(underTheViews());
+        column->addLayout(below);
         return column;
     }
 

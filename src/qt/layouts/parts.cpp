@@ -1,7 +1,9 @@
 #include "qt/layouts/parts.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QScrollArea>
+#include <QTimer>
 #include <QWidget>
 
 #include "qt/theme.h"
@@ -16,6 +18,48 @@ Layout* onGrid(Layout* layout, int margin) {
     layout->setSpacing(theme::kGrid);
     return layout;
 }
+
+class Covered final : public QObject {
+public:
+    Covered(QWidget* panel, QWidget* picture, QWidget* back) : QObject(picture), panel_(panel), back_(back) {
+        picture->installEventFilter(this);
+        if (!picture->isHidden()) {
+            panel->hide();
+        }
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::ShowToParent) {
+            cover();
+        } else if (event->type() == QEvent::HideToParent) {
+            uncover();
+        }
+        return false;
+    }
+
+private:
+    void cover() {
+        QWidget* focused = panel_->window()->focusWidget();
+        left_ = focused && panel_->isAncestorOf(focused) ? focused : nullptr;
+        panel_->hide();
+        if (left_) {
+            // The button comes up with the picture, a step later.
+            QTimer::singleShot(0, back_, [back = back_] { back->setFocus(Qt::OtherFocusReason); });
+        }
+    }
+    void uncover() {
+        panel_->show();
+        if (left_ && panel_->window()->focusWidget() == back_) {
+            left_->setFocus(Qt::OtherFocusReason);
+        }
+    }
+
+    QWidget* panel_;
+    QWidget* back_;
+    /// Where the keyboard was in the panel.
+    QWidget* left_ = nullptr;
+};
 
 }  // namespace
 
@@ -41,6 +85,10 @@ QWidget* scrolling(QWidget* content) {
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setFocusPolicy(Qt::NoFocus);
     return area;
+}
+
+void coverWhileSeen(QWidget* panel, QWidget* picture, QWidget* back) {
+    new Covered(panel, picture, back);
 }
 
 void setTabOrder(std::initializer_list<QWidget*> widgets) {

@@ -18,6 +18,10 @@ QLabel* newCaption(const QString& text, QWidget* field);
 /// Lets a widget scroll upwards and downwards where there is no room for all of it. Tab stops at its fields alone.
 QWidget* scrolling(QWidget* content);
 
+/// Takes a panel off the screen while a picture is seen in its place. A keyboard that is in the panel then goes to the
+/// button that leads back, and returns with it.
+void coverWhileSeen(QWidget* panel, QWidget* picture, QWidget* back);
+
 /// Tab walks these widgets in this order.
 void setTabOrder(std::initializer_list<QWidget*> widgets);
 

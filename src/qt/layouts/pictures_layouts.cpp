@@ -1,7 +1,6 @@
 #include "qt/layouts/pictures_layouts.h"
 
 #include <QComboBox>
-#include <QEvent>
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
@@ -54,28 +53,6 @@ private:
     static constexpr int kSide = 24;
 };
 
-/// Takes a panel off the screen while another one lies over it.
-class Covered final : public QObject {
-public:
-    Covered(QWidget* panel, QWidget* cover) : QObject(cover), panel_(panel) {
-        cover->installEventFilter(this);
-        if (!cover->isHidden()) {
-            panel_->hide();
-        }
-    }
-
-protected:
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
-            panel_->setVisible(event->type() == QEvent::HideToParent);
-        }
-        return false;
-    }
-
-private:
-    QWidget* panel_;
-};
-
 class Form19Layout {
 public:
     Form19Layout(pictures::Form19& form, FormWindow& window) : form_(form), window_(window), bind_(window) {}
@@ -87,9 +64,10 @@ public:
         auto* body = newRow();
         body->setSpacing(2 * kGrid);
         body->addLayout(live());
+        auto* below = actions();
         body->addLayout(wallOrView(), 1);
         all->addLayout(body, 1);
-        all->addLayout(actions());
+        all->addLayout(below);
         captureByKey();
         window_.resize(1240, 680);
     }
@@ -141,7 +119,7 @@ private:
         auto* view = bind_.picture(form_.Image3, QStringLiteral("Cliché en grand"));
         both->addWidget(panel, 0, 0);
         both->addWidget(view, 0, 0);
-        new Covered(panel, view);
+        coverWhileSeen(panel, view, window_.widgetOf(form_.Command6));
         return both;
     }
 
