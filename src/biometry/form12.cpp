@@ -352,6 +352,7 @@ void Form12::print() {
                 }
                 paintSheet(job->painter(), paper, printed, i);
             }
+            job->end();
         });
     } catch (const base::RuntimeError&) {
     }

@@ -308,6 +308,7 @@ void Form19::print(ports::Printer* printer) {
         page.print(line);
     }
     page.draw(selection_, arrangementFor(kOnPaper, number));
+    page.end();
 }
 
 }  // namespace pictures

@@ -400,6 +400,7 @@ void Form20::print(ports::Printer& printer) const {
         page.print(line);
     }
     page.draw(sheet_, arrangementFor(kOnPaper, static_cast<int>(sheet_.size())));
+    page.end();
 }
 
 void Form20::Imprime() {

@@ -30,7 +30,7 @@ SheetLine openingLine();
 SheetLine footLine();
 
 /// The one page of a picture sheet on its way to a printer. Its origin is the first point that the printer reaches.
-/// What comes later lies over what came before. Letting go of it ends the document.
+/// What comes later lies over what came before.
 class SheetPage {
 public:
     /// Opens the document. Throws DeviceError.
@@ -41,6 +41,8 @@ public:
     void draw(const QImage& picture, const QRectF& place);
     /// Draws pictures in their order into the places of an arrangement; those without a place are left out.
     void draw(std::span<const QImage> pictures, const Arrangement& arrangement);
+    /// Ends the document. Throws DeviceError.
+    void end() { job_->end(); }
 
 private:
     ports::PageGeometry page_;

@@ -22,7 +22,7 @@ struct PageGeometry {
     std::int32_t physicalOffsetY = 0;
 };
 
-/// A document on its way to a printer. Letting go of it ends the document.
+/// A document on its way to a printer.
 class PrintJob {
 public:
     virtual ~PrintJob() = default;
@@ -30,6 +30,9 @@ public:
     virtual QPainter& painter() = 0;
     /// Throws DeviceError if the printer refuses.
     virtual void newPage() = 0;
+    /// Ends the document; nothing is drawn after it. Throws DeviceError where the document can't be kept, as on a full
+    /// disk. A document that is let go of without it may be given up.
+    virtual void end() {}
 };
 
 /// One printer, with the paper it is to print on.

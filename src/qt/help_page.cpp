@@ -121,6 +121,7 @@ void HelpPage::printOn(ports::Printer& printer) const {
         }
         drawSheet(job->painter(), room, scale, page, i * page.pageSize().height());
     }
+    job->end();
 }
 
 }  // namespace qt

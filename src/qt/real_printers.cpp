@@ -1,15 +1,20 @@
 #include "qt/real_printers.h"
 
+#include <unistd.h>
+
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QFileInfo>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QTemporaryFile>
 #include <cmath>
+#include <cstdio>
 #include <optional>
 
 #include "base/errors.h"
@@ -23,29 +28,89 @@ std::int32_t twips(double millimetres) {
     return static_cast<std::int32_t>(std::lround(millimetres * kTwipsPerMillimetre));
 }
 
+[[noreturn]] void failOnDevice() {
+    throw base::RuntimeError(base::ErrorNumber::DeviceError);
+}
+
+/// The file of a PDF under a name of its own beside it, until it is whole: what stood in its place stays till then.
+class PdfInMaking {
+public:
+    explicit PdfInMaking(QPrinter& printer)
+        : printer_(printer),
+          wanted_(printer.outputFileName()),
+          making_(QFileInfo(wanted_).absolutePath() + QStringLiteral("/.XXXXXX.pdf")) {
+        if (!making_.open()) {
+            failOnDevice();
+        }
+        printer_.setOutputFileName(making_.fileName());
+    }
+    ~PdfInMaking() { printer_.setOutputFileName(wanted_); }
+    PdfInMaking(const PdfInMaking&) = delete;
+    PdfInMaking& operator=(const PdfInMaking&) = delete;
+
+    void publish() {
+        const QByteArray from = QFile::encodeName(making_.fileName()), to = QFile::encodeName(wanted_);
+        if (QFileInfo::exists(wanted_)) {
+            making_.setPermissions(QFile::permissions(wanted_));
+        }
+        if (!isWhole() || ::rename(from.constData(), to.constData()) != 0) {
+            failOnDevice();
+        }
+        making_.setAutoRemove(false);
+    }
+
+private:
+    // The toolkit doesn't tell what it couldn't write; the mark of the end is missing then.
+    bool isWhole() {
+        constexpr qint64 kTail = 64;
+        const bool found = making_.seek(qMax<qint64>(0, making_.size() - kTail));
+        return found && making_.readAll().contains("%%EOF") && ::fsync(making_.handle()) == 0;
+    }
+
+    QPrinter& printer_;
+    QString wanted_;
+    QTemporaryFile making_;
+};
+
+/// Whether pages go to paper, or to the screen alone.
+enum class Pages { Printed, Seen };
+
 class RealJob final : public ports::PrintJob {
 public:
-    explicit RealJob(std::shared_ptr<QPrinter> printer) : printer_(std::move(printer)) {
+    RealJob(std::shared_ptr<QPrinter> printer, Pages pages) : printer_(std::move(printer)) {
+        if (pages == Pages::Printed && printer_->outputFormat() == QPrinter::PdfFormat) {
+            pdf_.emplace(*printer_);
+        }
         if (!painter_.begin(printer_.get())) {
-            throw base::RuntimeError(base::ErrorNumber::DeviceError);
+            failOnDevice();
         }
     }
 
     QPainter& painter() override { return painter_; }
     void newPage() override {
         if (!printer_->newPage()) {
-            throw base::RuntimeError(base::ErrorNumber::DeviceError);
+            failOnDevice();
+        }
+    }
+    void end() override {
+        if (!painter_.end()) {
+            failOnDevice();
+        }
+        if (pdf_) {
+            pdf_->publish();
         }
     }
 
 private:
     std::shared_ptr<QPrinter> printer_;
+    std::optional<PdfInMaking> pdf_;
     QPainter painter_;
 };
 
 class RealPrinter final : public ports::Printer {
 public:
-    explicit RealPrinter(std::shared_ptr<QPrinter> printer) : printer_(std::move(printer)) {
+    explicit RealPrinter(std::shared_ptr<QPrinter> printer, Pages pages = Pages::Printed)
+        : printer_(std::move(printer)), pages_(pages) {
         // The margins are the program's own matter: the printer keeps what it can't do without. Both are told in the
         // unit that the layout has at the moment.
         const QPageLayout layout = printer_->pageLayout();
@@ -67,11 +132,12 @@ public:
 
     std::unique_ptr<ports::PrintJob> open(const QString& title) override {
         printer_->setDocName(title);
-        return std::make_unique<RealJob>(printer_);
+        return std::make_unique<RealJob>(printer_, pages_);
     }
 
 private:
     std::shared_ptr<QPrinter> printer_;
+    Pages pages_;
 };
 
 /// Keeps an error from going through the toolkit, which can't bear it, until it can be thrown again.
@@ -172,7 +238,7 @@ void RealPrinters::preview(const Print& print, QWidget* above) const {
     Boundary boundary;
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter*) {
         boundary.run([&] {
-            RealPrinter paper(printer);
+            RealPrinter paper(printer, Pages::Seen);
             print(paper);
         });
     });

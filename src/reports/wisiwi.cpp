@@ -29,6 +29,7 @@ void printPages(PageRenderer& renderer, ports::PrintJob& job, int textLength) {
     for (int first = 0; (first = renderer.render(job.painter(), first)) < textLength;) {
         job.newPage();
     }
+    job.end();
 }
 
 void PrintRTF(const forms::RichText& editor, ports::Printer& printer, const QString& title, const Margins& margins) {

@@ -189,7 +189,12 @@ TEST(PrinterDialog, OffersAPdfFileOnAMachineWithoutAPrinter) {
         EXPECT_TRUE(name->text().endsWith(".pdf"));
         name->setText(file);
     });
-    printers.choose([](ports::Printer& printer) { printer.open("Essai")->painter().drawLine(0, 0, 100, 100); });
+    printers.choose([&](ports::Printer& printer) {
+        const auto job = printer.open("Essai");
+        job->painter().drawLine(0, 0, 100, 100);
+        EXPECT_FALSE(QFile::exists(file)) << "a PDF is there when it is whole";
+        job->end();
+    });
     EXPECT_TRUE(QFile::exists(file));
 }
 
