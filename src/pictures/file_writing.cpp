@@ -51,11 +51,7 @@ bool writeAll(int file, QByteArrayView bytes) {
 /// A copy of the new content beside the file, removed in the end unless it has taken the file's place.
 class Copy {
 public:
-    explicit Copy(const QString& path)
-        : target_(QFile::encodeName(path)),
-          path_(QFile::encodeName(QStringLiteral("%1/.%2.%3.nouveau")
-                                      .arg(QFileInfo(path).path(), QFileInfo(path).fileName())
-                                      .arg(::getpid()))) {}
+    explicit Copy(const QString& path) : target_(QFile::encodeName(path)), path_(QFile::encodeName(besides(path))) {}
     ~Copy() {
         if (there_) {
             ::unlink(path_.constData());
@@ -64,8 +60,10 @@ public:
     Copy(const Copy&) = delete;
     Copy& operator=(const Copy&) = delete;
 
+    // What a killed program left under this name goes; whatever another one puts there meanwhile is not written into.
     bool write(QByteArrayView bytes) {
-        OpenFile file(path_, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW);
+        ::unlink(path_.constData());
+        OpenFile file(path_, O_WRONLY | O_CREAT | O_EXCL);
         there_ = file.open();
         return there_ && writeAll(file.number(), bytes) && ::fsync(file.number()) == 0 && file.close();
     }
@@ -75,6 +73,11 @@ public:
     }
 
 private:
+    static QString besides(const QString& path) {
+        const QFileInfo file(path);
+        return file.path() + QStringLiteral("/.") + file.fileName() + QStringLiteral(".%1.nouveau").arg(::getpid());
+    }
+
     QByteArray target_;
     QByteArray path_;
     bool there_ = false;
@@ -139,7 +142,8 @@ bool writeInto(const QString& path, QByteArrayView bytes) {
     const QByteArray name = QFile::encodeName(path);
     struct stat before {};
     const bool exists = ::stat(name.constData(), &before) == 0;
-    if (path.isEmpty() || (exists && !S_ISREG(before.st_mode))) {
+    // Past a null character the system would read no further, and take another file for this one.
+    if (path.isEmpty() || path.contains(QChar(0)) || (exists && !S_ISREG(before.st_mode))) {
         return false;
     }
     Copy copy(path);

@@ -112,7 +112,7 @@ void Form19::takeIdentity() {
 }
 
 QString Form19::slotFile(int slot) const {
-    return QStringLiteral("%1/Cliche%2.BMP").arg(around_.programFolder).arg(slot);
+    return around_.programFolder + QStringLiteral("/Cliche%1.BMP").arg(slot);
 }
 
 void Form19::CAPTURE() {
@@ -227,7 +227,7 @@ void Form19::ARCHIVE() {
     int filter = kJpeg;
     const QString date = compactDate(txtDatexam.text(), around_.clock.today());
     if (!chooseName({.filter = kArchiveFilter,
-                     .proposed = QStringLiteral("%1%2_%3").arg(shortName(), date).arg(number),
+                     .proposed = shortName() + date + u'_' + QString::number(number),
                      .folder = folder,
                      .filterIndex = kJpeg},
                     filter)) {

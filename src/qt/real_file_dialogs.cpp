@@ -25,6 +25,15 @@ QStringList endingsOf(const QString& filter) {
     return endings;
 }
 
+// A proposed name is one name in the dialog's folder, whatever a patient is called. Quotation marks would make several
+// of it.
+QString oneName(QString proposed) {
+    for (QChar& c : proposed) {
+        c = c == u'/' || c == u'"' || c < u' ' ? QChar(u'_') : c;
+    }
+    return proposed;
+}
+
 void prepare(QFileDialog& dialog, const QString& name, const QString& filter, const QString& proposed) {
     dialog.setObjectName(name);
     dialog.setProperty("filterText", filter);
@@ -71,7 +80,7 @@ std::optional<ports::SaveChoice> RealFileDialogs::save(const ports::SaveRequest&
         dialog.setDefaultSuffix(endings.value(dialog.nameFilters().indexOf(dialog.selectedNameFilter())));
     };
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, follow);
-    prepare(dialog, QStringLiteral("save"), request.filter, request.proposed);
+    prepare(dialog, QStringLiteral("save"), request.filter, oneName(request.proposed));
     dialog.selectNameFilter(dialog.nameFilters().value(request.filterIndex - 1));
     follow();
     const QString file = run(dialog);
