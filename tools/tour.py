@@ -12,10 +12,10 @@ from port import PROGRAM, Port  # noqa: E402
 
 
 class Tour:
-    def __init__(self, out, palette):
+    def __init__(self, out, palette, folder=None):
         self.out = out
         self.palette = palette
-        self.folder = tempfile.mkdtemp(prefix="veranox-tour-")
+        self.folder = folder or tempfile.mkdtemp(prefix="veranox-tour-")
         self.port = Port(self.folder, today="2002-06-14", platform="xcb", environment={"VERANOX_PALETTE": palette})
 
     def picture(self, form, name):
