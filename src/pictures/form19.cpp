@@ -76,12 +76,17 @@ void Form19::wireWall() {
 
 void Form19::load() {
     takeIdentity();
+    if (const auto* dossier = desk().peek<dossier::Form4>()) {
+        TxtEntete.setText(dossier->TxtEta.text());
+    }
 }
 
-// The album loads the window for its heading alone: that is no reason to hold the card.
+// The album loads the window for its heading alone: that is no reason to hold the card, and another dossier may be open
+// by the time somebody sees it.
 void Form19::showing() {
     if (!live_) {
         live_ = true;
+        takeIdentity();
         around_.pictureSource.start([this](const QImage& frame) { ezVidCap1.setPicture(frame); });
     }
 }
@@ -99,13 +104,12 @@ void Form19::takeIdentity() {
     txtDatexam.setText(base::shortDate(around_.clock.today()));
     try {
         const auto& dossier = desk().at<dossier::Form4>();
-        TxtEntete.setText(dossier.TxtEta.text());
         TxtNom.setText(dossier.NomLbl.text());
         TxtPrenom.setText(dossier.PrenomLbl.text());
         CmbCivilite.setText(dossier.LblCivilite.text());
     } catch (const base::RuntimeError&) {
         for (forms::TextControl* field :
-             std::initializer_list<forms::TextControl*>{&TxtEntete, &TxtNom, &TxtPrenom, &CmbCivilite}) {
+             std::initializer_list<forms::TextControl*>{&TxtNom, &TxtPrenom, &CmbCivilite}) {
             field->setText({});
         }
     }

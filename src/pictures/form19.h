@@ -68,7 +68,7 @@ public:
     /// Prints the selected pictures on one sheet of the printer that serves where none is chosen.
     void Imprim();
 
-    /// Takes the patient of the open dossier and today's date; the wall stays.
+    /// Takes the patient of the open dossier and today's date; the wall and the heading of the sheet stay.
     void takeIdentity();
     /// The picture in full size, under the name that was last chosen for it.
     AlbumEntry albumEntry() const;

@@ -110,12 +110,14 @@ def test_opens_from_the_main_menu_and_without_a_dossier(practice):
 
 def test_opened_again_from_another_exam_it_takes_the_patient_and_keeps_the_wall(wall):
     capture(wall, 1)
+    wall.set("Form19.TxtEntete", text="Cliniques du Parc")
     wall.click("Form5.CmdQuitter")
     wall.insert(table="FICHEPATIENT", row={"Numint": 3, "Nom": "MARTIN", "Prenom": "Anne"})
     wall.set("Form4.Text1", text="MARTIN")
     wall.click("Form4.Cmd1Ter")
     wall.click("Form5.CmdPhotos")
     assert wall.text("Form19.TxtNom") == "MARTIN"
+    assert wall.text("Form19.TxtEntete") == "Cliniques du Parc"
     assert wall.text("Form19.TxtNumEcho") == wall.text("Form5.TxtNumEcho")
     assert picture(wall, "Form19.Image2(1)") == {"width": 360, "height": 288}
 

@@ -228,6 +228,18 @@ TEST_F(AlbumPrinting, WritesTheHeadAboveASinglePictureAndTheFootBelow) {
     EXPECT_EQ(inkBetween(180, 274), -1);
 }
 
+TEST_F(AlbumPrinting, LaysThePicturesOverTheText) {
+    form().TxtNom.setText(QString(30, u'M'));
+    form().TxtImp.setText(QString(30, u'M'));
+    printed(5);
+    const int scale = PaperPrinters::kPixelsPerMillimetre;
+    EXPECT_GE(inkBetween(0, 30), 0);
+    QImage first = printers_.paper.copy(5 * scale, 30 * scale, 95 * scale, 70 * scale);
+    QImage red = first;
+    red.fill(kColours[0]);
+    EXPECT_EQ(first, red);
+}
+
 TEST_F(AlbumPrinting, KeepsTheSheetAfterPrinting) {
     printed(2);
     click(form().CmdImp);

@@ -196,6 +196,21 @@ TEST_F(AlbumSearching, SaysThatASortedSearchFoundNothing) {
     EXPECT_EQ(form().List4.items(), Lines());
 }
 
+TEST_F(AlbumSearching, ReportsASortedSearchForATextWithAnApostropheAndEmptiesItsLists) {
+    records(1);
+    form().TxtRechDate.setText("l'an 2002");
+    form().TxtRechNom.setText("D'ALMEIDA");
+    form().CmbRechDiag.setText("Kyste de l'ovaire");
+    for (forms::Menu* entry : {&form().TriDate, &form().TriNom, &form().TriDiag}) {
+        form().ListNom.setItems({"reste"});
+        form().List4.setItems({"reste"});
+        click(*entry);
+        EXPECT_EQ(form().ListNom.items() + form().List4.items(), Lines()) << entry->label().toStdString();
+    }
+    EXPECT_EQ(reported(), QList<int>({3075, 3075, 3075}));
+    EXPECT_EQ(said(), Lines());
+}
+
 TEST_F(AlbumSearching, ShowsTwentyFiveResultsInThreeClicks) {
     for (int i = 1; i <= 25; ++i) {
         put(QStringLiteral("p%1.bmp").arg(i));
@@ -426,6 +441,12 @@ TEST_F(AlbumSearching, EndsAPathWithAnApostropheInTheQuestionAndKeepsItsRecord) 
     clickLine(0);
     EXPECT_TRUE(large());
     EXPECT_EQ(form().LblFilename.text(), "l'oeil.bmp");
+    click(form().CmdFermer);
+    click(form().CmdAffiche);
+    twice(form().Image1(0));
+    EXPECT_EQ(reported(), QList<int>({3075, 3075}));
+    EXPECT_EQ(asked().size(), 1);
+    EXPECT_FALSE(large());
 }
 
 }  // namespace

@@ -77,7 +77,9 @@ TEST_F(Capture, TakesAnotherPatientAndKeepsTheWall) {
     fakes::addPatient(world_, 3, "MARTIN", "Anne");
     desk().at<dossier::Form4>().Text1.setText("MARTIN");
     world_.clock.date = QDate(2002, 4, 6);
+    form.TxtEntete.setText("Planche de MARTIN");
     form.takeIdentity();
+    EXPECT_EQ(form.TxtEntete.text(), "Planche de MARTIN");
     EXPECT_EQ(form.TxtNom.text(), "MARTIN");
     EXPECT_EQ(form.txtDatexam.text(), "06/04/2002");
     EXPECT_EQ(greyOf(form.Image2(2).picture()), 20);
@@ -99,6 +101,24 @@ TEST_F(Capture, TheLivePictureDoesntRunInAWindowThatNobodySees) {
     desk().act([this] { desk().show("Form19"); });
     EXPECT_TRUE(world_.pictureSource.running());
     EXPECT_EQ(form.ezVidCap1.picture(), sample(72, 58));
+}
+
+TEST_F(Capture, LoadedForAnotherWindowItTakesThePatientOfTheDossierWhenItIsSeen) {
+    fakes::addPatient(world_, 3, "MARTIN", "Anne");
+    desk().at<dossier::Form4>().Text1.setText("DUPONT");
+    const Form19& form = desk().at<Form19>();
+    EXPECT_EQ(form.TxtNom.text(), "DUPONT");
+    desk().at<dossier::Form4>().Text1.setText("MARTIN");
+    desk().act([this] { desk().show("Form19"); });
+    EXPECT_EQ(form.TxtNom.text(), "MARTIN");
+    EXPECT_EQ(form.TxtEntete.text(), "Cabinet du Parc");
+}
+
+TEST_F(Capture, WhatIsTypedStaysWhereTheWindowIsShownAgain) {
+    Form19& form = open();
+    form.TxtNom.setText("DURAND");
+    desk().act([this] { desk().show("Form19"); });
+    EXPECT_EQ(form.TxtNom.text(), "DURAND");
 }
 
 TEST_F(Capture, TheLivePictureGoesOnWhereTheWindowIsShownAgain) {
