@@ -23,14 +23,17 @@ struct SaveChoice {
     int filter = 1;
 };
 
+/// Whether a name that is picked has to be that of a file.
+enum class MustExist { Yes, No };
+
 /// The dialogs in which a person picks a file.
 class FileDialogs {
 public:
     virtual ~FileDialogs() = default;
 
-    /// Picks an existing file. `filter` is "Caption|*.ext|Caption|*.ext", `proposed` the name that stands in the field
-    /// at first. The full path, or nothing on Cancel.
-    virtual QString open(const QString& filter, const QString& proposed = {}) = 0;
+    /// Picks a file, or any name if it needn't exist. `filter` is "Caption|*.ext|Caption|*.ext", `proposed` the name
+    /// that stands in the field at first. The full path, or nothing on Cancel.
+    virtual QString open(const QString& filter, const QString& proposed = {}, MustExist mustExist = MustExist::Yes) = 0;
     /// Gives a new file its name; a name without ending gets that of the filter. It warns before a file is replaced.
     /// Nothing on Cancel.
     virtual std::optional<SaveChoice> save(const SaveRequest& request) = 0;

@@ -61,11 +61,11 @@ QString toolkitFilter(const QString& filter) {
     return result.join(QStringLiteral(";;"));
 }
 
-QString RealFileDialogs::open(const QString& filter, const QString& proposed) {
+QString RealFileDialogs::open(const QString& filter, const QString& proposed, ports::MustExist mustExist) {
     QFileDialog dialog(QApplication::activeWindow(), QObject::tr("Ouvrir"), lastFolder());
     prepare(dialog, QStringLiteral("open"), filter, proposed == u"*.*" ? QString() : proposed);
     dialog.setProperty("proposed", proposed);
-    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setFileMode(mustExist == ports::MustExist::Yes ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     return run(dialog);
 }
 

@@ -9,7 +9,7 @@ namespace qt {
 /// The toolkit's own dialogs, which speak French whatever the desktop.
 class RealFileDialogs final : public ports::FileDialogs {
 public:
-    QString open(const QString& filter, const QString& proposed) override;
+    QString open(const QString& filter, const QString& proposed, ports::MustExist mustExist) override;
     std::optional<ports::SaveChoice> save(const ports::SaveRequest& request) override;
 
 private:

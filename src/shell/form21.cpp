@@ -58,7 +58,8 @@ void Form21::load() {
 }
 
 void Form21::browse() {
-    const QString chosen = around_.fileDialogs.open(QStringLiteral("Fichiers Veranox (*.*)|*.*"));
+    const QString chosen =
+        around_.fileDialogs.open(QStringLiteral("Fichiers Veranox (*.*)|*.*"), {}, ports::MustExist::No);
     if (!chosen.isEmpty()) {
         Text1.setText(chosen);
     }

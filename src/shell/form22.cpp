@@ -39,11 +39,14 @@ QString Form22::setting(const QString& key) const {
 }
 
 void Form22::browseFor(forms::TextBox& field, const QString& usualName) {
-    field.setText(around_.fileDialogs.open(QStringLiteral("Basees de Données (*.MDB)|*.MDB"), usualName));
+    field.setText(
+        around_.fileDialogs.open(QStringLiteral("Basees de Données (*.MDB)|*.MDB"), usualName, ports::MustExist::No));
 }
 
+// Any name will do for a folder that holds no file yet.
 void Form22::browseForBackups() {
-    const QString full = around_.fileDialogs.open(QStringLiteral("Fichiers Veranox (*.*)|*.*"), QStringLiteral("*.*"));
+    const QString full = around_.fileDialogs.open(QStringLiteral("Fichiers Veranox (*.*)|*.*"), QStringLiteral("*.*"),
+                                                  ports::MustExist::No);
     const QString bare = QFileInfo(full).fileName();
     Text4.setText(full);
     Text4.select(0, static_cast<int>(full.size() - bare.size()));

@@ -70,6 +70,19 @@ def test_browsing_fills_the_place_and_cancel_leaves_it(practice):
     assert practice.text("Form21.Text1") == str(practice.folder / "NOM.MDB")
 
 
+def test_browsing_takes_a_name_that_is_not_there_yet(practice):
+    practice.start()
+    open_history_of(practice, "doss")
+    practice.click("Form4.Menu")
+    practice.click("Form1.CmdSauve")
+    practice.answer(**{"with": [{"file": str(practice.folder / "Sauve" / "Mardi ")}]})
+    practice.click("Form21.CmdParcourir")
+    assert practice.text("Form21.Text1") == str(practice.folder / "Sauve" / "Mardi ")
+    practice.click("Form21.CmdSauve2")
+    assert practice.said() == [DONE]
+    assert backups(practice) == ["Mardi " + name for name in FOUR]
+
+
 def test_the_four_files_are_copied_and_the_window_closes(practice):
     practice.start()
     open_history_of(practice, "doss")

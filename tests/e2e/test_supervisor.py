@@ -43,6 +43,23 @@ def test_a_first_start_is_set_up_and_opens_the_dossiers(supervisor):
     assert port.shown() == {"Form4"}
 
 
+def test_a_file_that_is_not_there_yet_can_be_named(supervisor):
+    # An empty folder for the backups holds nothing that could be picked.
+    empty = supervisor.folder / "Sauvegardes"
+    empty.mkdir()
+    for field, button, file, shown in [
+        ("Text1", "Command4", "ECHO.MDB", "ECHO.MDB"),
+        ("Text2", "Command5", "ECHOTEK.MDB", "ECHOTEK.MDB"),
+        ("Text3", "Command6", "NOM.MDB", "NOM.MDB"),
+        ("Text5", "Command8", "ATCD.MDB", "ATCD.MDB"),
+        ("Text4", "Command7", "ici", ""),
+    ]:
+        supervisor.answer(**{"with": [{"file": str(empty / file)}]})
+        supervisor.click("Form22." + button)
+        assert [box["kind"] for box in supervisor.boxes] == ["open"]
+        assert supervisor.text("Form22." + field) == f"{empty}/{shown}"
+
+
 def test_cancel_in_a_browse_dialog_empties_the_field(supervisor):
     for field, button in [("Text1", "Command4"), ("Text4", "Command7")]:
         supervisor.answer(**{"with": ["cancel"]})

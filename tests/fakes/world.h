@@ -77,9 +77,10 @@ public:
 
 class FileDialogs final : public ports::FileDialogs {
 public:
-    QString open(const QString& filter, const QString& proposed) override {
+    QString open(const QString& filter, const QString& proposed, ports::MustExist mustExist) override {
         filters << filter;
         proposals << proposed;
+        anyName = mustExist == ports::MustExist::No;
         return chosen;
     }
 
@@ -91,6 +92,7 @@ public:
     QString chosen;
     QStringList filters;
     QStringList proposals;
+    bool anyName = false;                      // whether the last one takes the name of a file that isn't there
     std::optional<ports::SaveChoice> savedAs;  // none: Cancel
     QList<ports::SaveRequest> saves;
 };

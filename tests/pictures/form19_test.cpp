@@ -283,6 +283,7 @@ TEST_F(Opening, ShowsTheFileInFullSize) {
     world_.fileDialogs.chosen = path("a.bmp");
     press(form.OuvJpg);
     EXPECT_EQ(world_.fileDialogs.filters, QStringList({"Images (*.BMP;*.JPG;*.ICO)|*.BMP;*.JPG;*.ICO"}));
+    EXPECT_FALSE(world_.fileDialogs.anyName);
     EXPECT_EQ(form.Image3.picture().size(), QSize(30, 20));
     EXPECT_TRUE(form.Image3.visible() && form.Command6.visible());
 }

@@ -103,7 +103,7 @@ TEST_F(FileDialogsTest, OpeningTakesNoFileThatIsNotThere) {
         answerMessage(QMessageBox::Ok);
         accept(dialog);
     });
-    EXPECT_EQ(dialogs_.open("Images (*.BMP;*.JPG;*.ICO)|*.BMP;*.JPG;*.ICO", {}), "");
+    EXPECT_EQ(dialogs_.open("Images (*.BMP;*.JPG;*.ICO)|*.BMP;*.JPG;*.ICO", {}, ports::MustExist::Yes), "");
 }
 
 TEST_F(FileDialogsTest, ShowFilesWhateverTheCaseOfTheirEndings) {

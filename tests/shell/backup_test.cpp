@@ -277,6 +277,7 @@ TEST_F(Backup, BrowsesForTheNameOfAFile) {
     world_.fileDialogs.chosen = backups() + "/ancien.txt";
     press(form.CmdParcourir);
     EXPECT_EQ(world_.fileDialogs.filters, QStringList({"Fichiers Veranox (*.*)|*.*"}));
+    EXPECT_TRUE(world_.fileDialogs.anyName);
     EXPECT_EQ(form.Text1.text(), backups() + "/ancien.txt");
     world_.fileDialogs.chosen = "";
     press(form.CmdParcourir);

@@ -95,6 +95,7 @@ TEST_F(Supervisor, BrowsesForEachDatabaseUnderItsUsualName) {
         press(row.button);
         EXPECT_EQ(world_.fileDialogs.filters.last(), "Basees de Données (*.MDB)|*.MDB");
         EXPECT_EQ(world_.fileDialogs.proposals.last(), row.name);
+        EXPECT_TRUE(world_.fileDialogs.anyName);
         EXPECT_EQ(row.field.text(), "/réseau/commun/" + row.name);
     }
     EXPECT_EQ(form.Text4.text(), world_.folder.path());
@@ -117,6 +118,7 @@ TEST_F(Supervisor, KeepsTheFolderOfThePickedFileWithItsSeparator) {
     press(form.Command7);
     EXPECT_EQ(world_.fileDialogs.filters.last(), "Fichiers Veranox (*.*)|*.*");
     EXPECT_EQ(world_.fileDialogs.proposals.last(), "*.*");
+    EXPECT_TRUE(world_.fileDialogs.anyName);
     EXPECT_EQ(form.Text4.text(), "/mnt/clé usb/Sauvegardes/");
     EXPECT_EQ(form.Text4.selectionStart(), 0);
     EXPECT_EQ(form.Text4.selectionLength(), 25);
