@@ -111,6 +111,9 @@ QJsonObject Server::answer(const QJsonObject& request) {
     try {
         answer = carryOut(request.value(u"do").toString(), request);
         untilIdle();
+        if (front_.giveBackInput()) {
+            untilIdle();
+        }
         answer[QStringLiteral("ok")] = true;
     } catch (const PortError& error) {
         answer = {{QStringLiteral("ok"), false}, {QStringLiteral("error"), error.why}};

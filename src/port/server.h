@@ -7,6 +7,7 @@
 
 #include "port/box_watcher.h"
 #include "port/fixed_clock.h"
+#include "port/front_windows.h"
 #include "port/hands.h"
 #include "port/port_picture_source.h"
 #include "port/port_printers.h"
@@ -61,6 +62,7 @@ private:
     qt::RealClipboard clipboard_;
     PortPictureSource pictureSource_{settings_};
     BoxWatcher watcher_;
+    FrontWindows front_;
     std::map<QString, Act> acts_;
     std::unique_ptr<shell::Program> program_;
     std::unique_ptr<qt::WindowStage> stage_;

@@ -88,6 +88,15 @@ def test_it_writes_no_settings_but_its_own(menu):
     assert menu.setting(key="INCONNU")["value"] is None
 
 
+def test_the_window_behind_has_the_input_when_a_box_or_a_window_has_gone(menu):
+    menu.click("Form1.CmdSauve")
+    menu.click("Form21.CmdSauve1")
+    assert [box["kind"] for box in menu.boxes] == ["message"]
+    assert menu.focused()["control"] == "Form21.CmdSauve1"
+    menu.click("Form21.Command1")
+    assert menu.focused()["control"] == "Form1.CmdSauve"
+
+
 def test_the_given_date_is_the_machines(writing):
     assert writing.text("Form5.TxtDate") == "05/04/2002"
 
