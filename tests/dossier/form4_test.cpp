@@ -20,6 +20,44 @@ TEST_F(DossierWindow, ShowsNoPatientAtLoadAndStandsOnThemAllBySurname) {
     EXPECT_FALSE(form.CmdEnregATCD.enabled());
 }
 
+TEST_F(DossierWindow, CarriesItsTitleAndCaptions) {
+    const Form4& form = open();
+    EXPECT_EQ(form.title(), "VERANOX 3.11");
+    EXPECT_EQ(form.Frame5.text(), "Rechercher  Un Dossier");
+    EXPECT_EQ(form.Command1.text(), "&Debut");
+    EXPECT_EQ(form.Command2.text(), "&Fin");
+    EXPECT_EQ(form.Command3.text(), "&<");
+    EXPECT_EQ(form.Command4.text(), "&>");
+    EXPECT_EQ(form.Frame2.text(), "Nouvelle Echographie");
+    EXPECT_EQ(form.Cmd1Ter.text(), "&1 er Ter");
+    EXPECT_EQ(form.Cmd2Ter.text(), "&2 -3 ème Ter");
+    EXPECT_EQ(form.CmdGyneco.text(), "&Gyneco");
+    EXPECT_EQ(form.Frame3.text(), "Revoir un Compte Rendu Obstétrical");
+    EXPECT_EQ(form.Frame6.text(), "Revoir un Compte Rendu Gynéco");
+    EXPECT_EQ(form.CmdCreeDossier.text(), "&Nouveau");
+    EXPECT_EQ(form.CmdModifie.text(), "&Modifier");
+    EXPECT_EQ(form.CmdSupprime.text(), "&Supprimer");
+    EXPECT_EQ(form.CmdATCD.text(), "Informations");
+    EXPECT_EQ(form.CmdEnregATCD.text(), "Enregistrer les Informations");
+    EXPECT_EQ(form.CmdQuitter.text(), "&Quitter");
+    EXPECT_EQ(form.Menu.text(), "Menu");
+}
+
+TEST_F(DossierWindow, HoldsItsControlsInTheirFrames) {
+    const Form4& form = open();
+    const QList<std::pair<const forms::Frame*, QStringList>> frames{
+        {&form.Frame5, {"Text1", "Text2"}},
+        {&form.Frame2, {"Cmd1Ter", "Cmd2Ter", "CmdGyneco"}},
+        {&form.Frame3, {"HlbCptDate", "HlbCptDer", "List1"}},
+        {&form.Frame6, {"Command6", "Command5", "List2"}},
+        {&form.Frame4, {"TxtEta", "TxtNom", "TxtAdress", "TxtVille", "TxtTel"}}};
+    for (const auto& [frame, names] : frames) {
+        for (const QString& name : names) {
+            EXPECT_EQ(form.find(name)->holder(), frame) << name.toStdString();
+        }
+    }
+}
+
 TEST_F(DossierWindow, ReadsThePathsFromTheSettings) {
     open();
     EXPECT_EQ(state_.PathEcho, world_.folder.filePath("ECHO.MDB"));
@@ -73,6 +111,12 @@ TEST_F(DossierWindow, ReachesANameWithAnApostropheWithoutTypingIt) {
     type(form.Text1, "d'alm");
     EXPECT_EQ(form.Text1.text(), "DALM");
     EXPECT_EQ(shown(form), "5 D'ALMEIDA Inès");
+}
+
+TEST_F(DossierWindow, FiltersTheKeysOfTheFirstNameAlike) {
+    Form4& form = openOn("DUP");
+    type(form.Text2, "d'a-z2");
+    EXPECT_EQ(form.Text2.text(), "DA-Z2");
 }
 
 TEST_F(DossierWindow, KeepsAccentedLettersAsTheyAreTyped) {
@@ -149,6 +193,23 @@ TEST_F(DossierWindow, TheFirstNameSearchOnASurnameWithAnApostropheEndsInTheDefau
     Form4& form = openOn("DALM");
     world_.desk.act([&] { form.Text2.setText("I"); });
     EXPECT_EQ(world_.boxes.reported, QList<int>({3075}));
+}
+
+TEST_F(DossierWindow, TheFirstNameSearchEnablesBrowsing) {
+    Form4& form = open();
+    form.Text2.setText("MAR");
+    EXPECT_TRUE(form.Command3.enabled());
+    EXPECT_TRUE(form.Command4.enabled());
+}
+
+TEST_F(DossierWindow, ShowsThePatientUnderTheCursor) {
+    addPatient(world_, 7, "ZOLA", "Ève", {{"CIVILITEE", "Madame"}, {"NOMJF", "ROUX"}});
+    const Form4& form = openOn("ZOLA");
+    EXPECT_EQ(form.NumLbl.text(), "7");
+    EXPECT_EQ(form.LblCivilite.text(), "Madame");
+    EXPECT_EQ(form.NomLbl.text(), "ZOLA");
+    EXPECT_EQ(form.PrenomLbl.text(), "Ève");
+    EXPECT_EQ(form.LstCiv.items().first(), "Née          : ROUX");
 }
 
 TEST_F(DossierWindow, TheFirstNameSearchDoesNotResetTheHistory) {
@@ -241,6 +302,7 @@ TEST_F(DossierWindow, ListsTheGynaecologyExams) {
     form.Command4.click();
     form.Command6.click();
     EXPECT_EQ(form.List2.items(), QStringList({"04/05/2001"}));
+    EXPECT_EQ(state_.SqlEcho, "SELECT*FROM CIVILITES ORDER BY NOM, PRENOM");
 }
 
 TEST_F(DossierWindow, BrowsingAfterAListResetsTheHistoryAndOtherwiseDoesNothing) {
@@ -273,7 +335,14 @@ TEST_F(DossierWindow, AnEmptyListGivesNoMessageAndReopensThePatients) {
     form.HlbCptDate.click();
     EXPECT_EQ(form.List1.count(), 0);
     EXPECT_TRUE(world_.boxes.said.isEmpty());
+    EXPECT_EQ(state_.SqlEcho, "SELECT*FROM 1TER WHERE NUMERO=6 ORDER BY NUMECHO");
     EXPECT_EQ(state_.SqlNom, "SELECT*FROM FICHEPATIENT ORDER BY NOM");
+    EXPECT_EQ(state_.Rs.text("Nom"), "ALBERT");
+    form.List2.add("reste");
+    form.Command6.click();
+    EXPECT_EQ(form.List2.count(), 0);
+    EXPECT_TRUE(world_.boxes.said.isEmpty());
+    EXPECT_EQ(state_.SqlEcho, "SELECT*FROM GYNECO WHERE NUMERO=6 ORDER BY NUMECHO");
     EXPECT_EQ(state_.Rs.text("Nom"), "ALBERT");
 }
 
@@ -313,6 +382,21 @@ TEST_F(DossierWindow, ADoubleClickShowsTheLaterOfTwoExamsOfOneDate) {
     form.List1.doubleClick();
     EXPECT_EQ(doors_.log, QStringList({"obstetric 3"}));
     EXPECT_EQ(state_.SqlEcho, "SELECT*FROM 1TER  WHERE NUMERO=2 ORDER BY NUMECHO");
+}
+
+TEST_F(DossierWindow, ADoubleClickShowsTheGynaecologyExamOfItsDate) {
+    exams();
+    addExam(world_, "GYNECO", 2, 2, "06/07/2001");
+    addExam(world_, "GYNECO", 2, 3, "06/07/2001");
+    Form4& form = openOn("DUP");
+    form.Command4.click();
+    form.Command6.click();
+    for (const int row : {1, 0}) {
+        form.List2.setRow(row);
+        form.List2.doubleClick();
+    }
+    EXPECT_EQ(doors_.log, QStringList({"gynaecology 3", "gynaecology 1"}));
+    EXPECT_EQ(state_.SqlEcho, "SELECT*FROM GYNECO  WHERE NUMERO=2 ORDER BY NUMECHO");
 }
 
 TEST_F(DossierWindow, TheLastExamButtonsShowTheHighestNumber) {

@@ -136,6 +136,31 @@ TEST_F(ResponseEditor, CarriesItsTitleAndItsHead) {
     EXPECT_EQ(form().Label1.text(), "Gestion des réponses mémorisées");
 }
 
+TEST_F(ResponseEditor, CarriesTheCaptionsOfItsFramesAndButtons) {
+    EXPECT_EQ(form().Frame2.text(), "Praticiens - Appareil");
+    EXPECT_EQ(form().Frame3.text(), "Divers");
+    EXPECT_EQ(form().Frame4.text(), "1er Trimestre");
+    EXPECT_EQ(form().Frame5.text(), "Gynécologie");
+    EXPECT_EQ(form().Frame6.text(), "2ème - 3ème Trimestre");
+    EXPECT_EQ(form().Frame8.text(), "Morpho Taiple");
+    EXPECT_EQ(form().CmdAjoute.text(), "&Ajouter");
+    EXPECT_EQ(form().CmdModif.text(), "&Modifier");
+    EXPECT_EQ(form().CmdSupprime.text(), "&Supprimer");
+    EXPECT_EQ(form().OBSuite.text(), "A la suite");
+    EXPECT_EQ(form().OBLigne.text(), "Va à la ligne");
+    EXPECT_EQ(form().OBClot.text(), "Clôt la rubrique");
+    EXPECT_EQ(form().CmdIntro.text(), "Introduction Cpte Rendu");
+    EXPECT_EQ(form().CmdEnreg.text(), "Enregistrer");
+    EXPECT_EQ(form().CmdAnul.text(), "Annuler Quitter");
+}
+
+TEST_F(ResponseEditor, HoldsTheIntroductionInItsPanel) {
+    for (const forms::Control* control :
+         std::initializer_list<forms::Control*>{&form().TxtIntro, &form().CmdEnreg, &form().CmdAnul}) {
+        EXPECT_EQ(control->holder(), &form().Frame9) << control->name().toStdString();
+    }
+}
+
 TEST_F(ResponseEditor, ReadsThePathAtLoadAgain) {
     EXPECT_EQ(state_.PathEcho, echo());
     world_.desk.unload("Form9");

@@ -48,6 +48,47 @@ TEST_F(MainMenu, ShowsAloneAtTheStart) {
     EXPECT_EQ(program_.desk().loaded().size(), 1U);
 }
 
+TEST_F(MainMenu, CarriesItsTitleAndCaptions) {
+    const Form1& menu = start();
+    EXPECT_EQ(menu.title(), "VERANOX 3.11");
+    EXPECT_EQ(menu.Command1.text(), "&Dossiers Patientes");
+    EXPECT_EQ(menu.Command2.text(), "Réponses &mémorisées");
+    EXPECT_EQ(menu.Command5.text(), "&Photos");
+    EXPECT_EQ(menu.Command6.text(), "&Album");
+    EXPECT_EQ(menu.CmdSauve.text(), "&Sauvegardes");
+    EXPECT_EQ(menu.CmdSupervi.text(), "Su&perviseur");
+    EXPECT_EQ(menu.CmdAide.text(), "Ai&de");
+    EXPECT_EQ(menu.Command4.text(), "A &propos");
+    EXPECT_EQ(menu.Command3.text(), "&Fermer");
+}
+
+TEST_F(MainMenu, OpensEachSideWindowBesideItselfWithoutAnySetting) {
+    Form1& menu = start();
+    const QList<std::pair<forms::Button*, QString>> doors{{&menu.Command5, "Form19"},
+                                                          {&menu.Command6, "Form20"},
+                                                          {&menu.CmdSauve, "Form21"},
+                                                          {&menu.CmdSupervi, "Form22"},
+                                                          {&menu.Command4, "Form14"}};
+    for (const auto& [button, form] : doors) {
+        press(*button);
+        EXPECT_TRUE(shown(form)) << form.toStdString();
+        EXPECT_TRUE(shown("Form1"));
+    }
+}
+
+TEST_F(MainMenu, OpensTheStoredResponsesBesideItselfAndReadsTheirPathAlone) {
+    files();
+    world_.settings.put("CHEMCIV", "/ailleurs");
+    world_.settings.put("CHEMATCD", "/ailleurs");
+    press(start().Command2);
+    EXPECT_TRUE(shown("Form9"));
+    EXPECT_TRUE(shown("Form1"));
+    EXPECT_TRUE(world_.boxes.said.isEmpty());
+    EXPECT_EQ(program_.state().PathEcho, fakes::pathOf(world_, store::FileKind::Echo));
+    EXPECT_EQ(program_.state().PathNom, "");
+    EXPECT_EQ(program_.state().PathAtcd, "");
+}
+
 TEST_F(MainMenu, OpensTheDossierWindowAndHides) {
     files();
     press(start().Command1);
@@ -62,8 +103,12 @@ TEST_F(MainMenu, RefusesAFirstStartWithNoSettings) {
     press(menu.Command2);
     EXPECT_EQ(world_.boxes.said, QStringList({kEchoMissing, kEchoMissing}));
     EXPECT_TRUE(shown("Form1"));
-    EXPECT_EQ(program_.state().PathEcho, world_.folder.path());
-    EXPECT_EQ(program_.state().PathEchotek, "");
+    const store::State& state = program_.state();
+    for (const QString& path :
+         {state.PathEcho, state.PathNom, state.PathAtcd, state.WorkEcho, state.WorkNom, state.WorkAtcd}) {
+        EXPECT_EQ(path, world_.folder.path());
+    }
+    EXPECT_EQ(state.PathEchotek, "");
 }
 
 TEST_F(MainMenu, PassesAPathThatEndsInTheNameInAnyCase) {
@@ -119,7 +164,7 @@ TEST_F(MainMenu, ComesBackWhenTheDossierWindowIsClosed) {
     EXPECT_EQ(program_.desk().peek("Form4"), nullptr);
 }
 
-TEST_F(MainMenu, EndsTheProgramByItsButtonOrItsFrame) {
+TEST_F(MainMenu, EndsTheProgramByItsButton) {
     press(start().Command3);
     EXPECT_TRUE(program_.desk().ended());
 }
@@ -136,6 +181,7 @@ TEST_F(MainMenu, OpensTheAboutBoxBesideItself) {
     EXPECT_TRUE(shown("Form14"));
     EXPECT_TRUE(shown("Form1"));
     auto& about = program_.desk().at<Form14>();
+    EXPECT_EQ(about.title(), "VERANOX");
     EXPECT_EQ(about.Label6.text(), "VERANOX");
     EXPECT_EQ(about.Label5.text(),
               "Logiciel destiné à archiver et à établir les comptes rendus d'examens échographiques "
@@ -157,6 +203,7 @@ TEST_F(MainMenu, GreetsOnThe16thOfAprilAndShowsBehindItsButton) {
     EXPECT_TRUE(shown("Form15"));
     EXPECT_FALSE(shown("Form1"));
     auto& greeting = program_.desk().at<Form15>();
+    EXPECT_EQ(greeting.title(), "");
     EXPECT_EQ(greeting.Label1.text(), "Aujourd'hui c'est l'anniversaire du bon");
     EXPECT_EQ(greeting.Label5.text(), "Dr Aubin THOREAUX");
     EXPECT_EQ(greeting.Label2.text(), "16 Avril");

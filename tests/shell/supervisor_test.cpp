@@ -44,6 +44,15 @@ TEST_F(Supervisor, CarriesItsTitleAndCaptions) {
     EXPECT_EQ(form.Command3.text(), "&Quitter");
 }
 
+TEST_F(Supervisor, HasAModelOfEachEntryUntilItsSettingsAreRead) {
+    const Form22 form(world_.around, program_.state());
+    EXPECT_EQ(form.Text1.text(), "...\\ECHO.MDB");
+    EXPECT_EQ(form.Text2.text(), "...\\ECHOTEK.MDB");
+    EXPECT_EQ(form.Text3.text(), "...\\NOM.MDB");
+    EXPECT_EQ(form.Text5.text(), "...\\ATCD.MDB");
+    EXPECT_EQ(form.Text4.text(), "...\\Sauve");
+}
+
 TEST_F(Supervisor, ShowsTheFiveSettings) {
     world_.settings.put("CHEMIN", "/r/ECHO.MDB");
     world_.settings.put("CHEMINS", "/r/ECHOTEK.MDB");
