@@ -24,9 +24,9 @@ constexpr qreal kTextPoints = 10;
 // Kilobytes. The toolkit's own 10 MB fill up with the pictures of windows that are gone.
 constexpr int kPixmapCache = 2048;
 
-/// Draws the frame of a text or list that has the focus in the accent colour, as that of a field of one line, and gives
-/// boxes and circles to tick an edge that a dark palette shows.
-class FocusFrameStyle final : public QProxyStyle {
+/// Draws the frame of a text or list that has the focus in the accent colour, as that of a field of one line, gives
+/// boxes and circles to tick an edge that a dark palette shows, and keeps captions off the edges of their buttons.
+class HouseStyle final : public QProxyStyle {
 public:
     using QProxyStyle::QProxyStyle;
 
@@ -40,6 +40,12 @@ public:
             painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
             painter->restore();
         }
+    }
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override {
+        const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+        return type == CT_PushButton ? size.expandedTo({contents.width() + 3 * kGrid, 0}) : size;
     }
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -137,7 +143,7 @@ QColor mixed(const QColor& colour, const QColor& other, double part) {
 void apply(QApplication& application) {
     loadArtwork();
     QPixmapCache::setCacheLimit(kPixmapCache);
-    QApplication::setStyle(new FocusFrameStyle(QStringLiteral("Fusion")));
+    QApplication::setStyle(new HouseStyle(QStringLiteral("Fusion")));
     QApplication::setPalette(wantedPalette());
     QFont font = QApplication::font();
     font.setPointSizeF(kTextPoints);

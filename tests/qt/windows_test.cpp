@@ -142,6 +142,26 @@ TEST_F(AllWindows, FitASmallScreenWhateverThePatientAndTheDeviceAreCalled) {
     }
 }
 
+TEST_F(AllWindows, KeepCaptionsOffTheEdgesOfTheirButtons) {
+    constexpr int kLeastMargin = 8;
+    forEachControl([](const Control&, const QWidget* widget, const std::string& name) {
+        const auto* button = qobject_cast<const QPushButton*>(widget);
+        if (button && button->isVisible()) {
+            const int caption = button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
+            EXPECT_GE(button->width(), caption + 2 * kLeastMargin) << name;
+        }
+    });
+}
+
+TEST_F(AllWindows, ShowAllLinesOfAPatientAtOnce) {
+    constexpr int kLines = 29;
+    auto& dossier = program_.desk().at<dossier::Form4>();
+    program_.desk().act([&] { dossier.Text1.setText("MARTINEAU"); });
+    ASSERT_EQ(dossier.LstCiv.count(), kLines);
+    const auto* list = qobject_cast<const QListView*>(stage_.windowOf(dossier)->widgetOf(dossier.LstCiv));
+    EXPECT_LE(kLines * list->sizeHintForRow(0), list->viewport()->height());
+}
+
 TEST_F(AllWindows, NameEachFieldForAScreenReader) {
     forEachControl([](const Control& control, const QWidget* widget, const std::string& name) {
         if (control.kind() == Kind::TextBox || control.kind() == Kind::ListBox || control.kind() == Kind::ComboBox) {

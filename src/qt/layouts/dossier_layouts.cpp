@@ -8,6 +8,8 @@
 #include <QListView>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QStyledItemDelegate>
+#include <algorithm>
 
 #include "qt/binder.h"
 #include "qt/layouts/parts.h"
@@ -18,6 +20,18 @@ namespace qt {
 namespace {
 
 using theme::kGrid;
+
+/// Lines as close to each other as their letters allow: a whole sheet is in sight at once.
+class CloseLines final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        const QSize size = QStyledItemDelegate::sizeHint(option, index);
+        const int letters = option.fontMetrics.tightBoundingRect(QStringLiteral("Éj")).height();
+        return {size.width(), std::min(size.height(), letters + 1)};
+    }
+};
 
 /// The dossier window, built piece by piece; the pieces stand in the order in which Tab walks them.
 class DossierLayout {
@@ -97,6 +111,7 @@ private:
     QWidget* sheet() {
         auto* list = bind_.list(form_.LstCiv, QStringLiteral("Fiche de la patiente"));
         list->setFont(theme::fixedFont());
+        list->setItemDelegate(new CloseLines(list));
         list->setSelectionMode(QAbstractItemView::NoSelection);
         list->setMinimumWidth(360);
         return list;

@@ -29,12 +29,6 @@ QVBoxLayout* column(QWidget* parent) {
     return layout;
 }
 
-// A button whose caption keeps its distance from the edges.
-QPushButton* roomy(QPushButton* button) {
-    button->setMinimumWidth(button->sizeHint().width() + 2 * kGrid);
-    return button;
-}
-
 // A widget that leaves its place empty when it is hidden.
 template <class Widget>
 Widget* keepingItsPlace(Widget* widget) {
@@ -125,21 +119,21 @@ void layOutForm15(shell::Form15& form, FormWindow& window) {
 void layOutForm21(shell::Form21& form, FormWindow& window) {
     Binder bind(window);
     auto* all = column(&window);
-    all->addWidget(roomy(bind.button(form.CmdSauve1)));
+    all->addWidget(bind.button(form.CmdSauve1));
     all->addSpacing(2 * kGrid);
-    all->addWidget(roomy(bind.button(form.CmdSauve2)));
+    all->addWidget(bind.button(form.CmdSauve2));
     const QString caption = QStringLiteral("Endroit");
     auto* place = newRow();
     auto* edit = bind.line(form.Text1, caption);
     place->addWidget(newCaption(caption, edit));
     place->addWidget(edit, 1);
-    place->addWidget(roomy(bind.button(form.CmdParcourir)));
+    place->addWidget(bind.button(form.CmdParcourir));
     all->addLayout(place);
     all->addSpacing(2 * kGrid);
     all->addWidget(keepingItsPlace(bind.label(form.LblFichier)));
     all->addWidget(keepingItsPlace(progressBar(form.LblAvance, window, QStringLiteral("Avancement de la copie"))));
     all->addStretch(1);
-    all->addWidget(roomy(bind.button(form.Command1)), 0, Qt::AlignRight);
+    all->addWidget(bind.button(form.Command1), 0, Qt::AlignRight);
     window.resize(560, window.sizeHint().height());
 }
 
@@ -161,7 +155,7 @@ void layOutForm22(shell::Form22& form, FormWindow& window) {
         auto* edit = bind.line(box, caption);
         grid->addWidget(newCaption(caption, edit), row, 0);
         grid->addWidget(edit, row, 1);
-        grid->addWidget(roomy(bind.button(browse)), row, 2);
+        grid->addWidget(bind.button(browse), row, 2);
     };
     field(QStringLiteral("Base ECHO.MDB"), form.Text1, form.Command4);
     field(QStringLiteral("Base ECHOTEK.MDB"), form.Text2, form.Command5);
@@ -173,10 +167,10 @@ void layOutForm22(shell::Form22& form, FormWindow& window) {
     all->addSpacing(kGrid);
 
     auto* actions = newRow();
-    actions->addWidget(roomy(bind.button(form.Command1)));
+    actions->addWidget(bind.button(form.Command1));
     actions->addStretch(1);
-    actions->addWidget(roomy(bind.button(form.Command2)));
-    actions->addWidget(roomy(bind.button(form.Command3)));
+    actions->addWidget(bind.button(form.Command2));
+    actions->addWidget(bind.button(form.Command3));
     all->addLayout(actions);
     window.resize(960, window.sizeHint().height());
 }
