@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include "exams/exam_windows.h"
+#include "exams/first_trimester_offers.h"
 #include "pictures/form19.h"
 
 namespace exams {
@@ -30,6 +31,54 @@ TEST_F(WritingWindow, OpensEmptyOnTheFirstExamOfADossier) {
         EXPECT_EQ(form.sheet.Txt1Ter(i).text(), "") << i;
     }
     EXPECT_TRUE(shown("Form5"));
+}
+
+TEST_F(WritingWindow, ItsControlsHaveTheirCaptionsAndTheirNumbers) {
+    const std::vector<std::pair<const char*, const char*>> captions{{"Frame5", "G Multiple"},
+                                                                    {"CmdJ1", "J1"},
+                                                                    {"CmdJ2", "J2"},
+                                                                    {"CmdJ3", "J3"},
+                                                                    {"FrameJ1", "Embryon"},
+                                                                    {"FrameJ2", "Embryon N°2"},
+                                                                    {"FrameJ3", "Embryon N°3"},
+                                                                    {"TxtNumFoet", "1"},
+                                                                    {"Label31", "Embryon N°"},
+                                                                    {"Label32", "2"},
+                                                                    {"Command2", "DGUS"},
+                                                                    {"CmdPhotos", "&Photos"},
+                                                                    {"CmdEnregis", "&Enregistrer"},
+                                                                    {"CmdQuitter", "&Quitter"}};
+    const Form5& form = newExam();
+    EXPECT_EQ(form.title(), "Rédaction 1 Ter");
+    for (const auto& [control, caption] : captions) {
+        EXPECT_EQ(form.find(QString(control))->text(), caption) << control;
+    }
+    EXPECT_EQ(form.find(u"FrameJ1", 0), &form.sheet.FrameJ1);
+    EXPECT_EQ(form.find(u"FrameJ2", 1), &form.sheet.FrameJ2);
+    EXPECT_EQ(form.find(u"FrameJ3", 2), &form.sheet.FrameJ3);
+    EXPECT_EQ(form.find(u"Frame5", 3), &form.sheet.Frame5);
+}
+
+TEST_F(WritingWindow, OpensFromEachOfItsButtonsAndMenus) {
+    addExam(2, 1, "10/01/2002");
+    addLater(2, 2, "10/02/2002");
+    viewLastLater();
+    press(view().Echo1T);
+    EXPECT_EQ(desk().at<Form5>().sheet.TxtNumEcho.text(), "3");
+    for (forms::Control* opener :
+         std::initializer_list<forms::Control*>{&view().Hlb1T, &laterView().Ter1, &laterView().Hlb1T}) {
+        press(desk().at<Form5>().CmdQuitter);
+        press(*opener);
+        EXPECT_TRUE(shown("Form5"));
+    }
+}
+
+TEST_F(WritingWindow, WithoutADeviceSavesEmptyTexts) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(15), "1");
+    save(form);
+    EXPECT_EQ(query("SELECT*FROM 1TER WHERE NUMERO=2").field("MACHINE"), store::Value(QString("")));
+    EXPECT_EQ(query("SELECT*FROM 1TER WHERE NUMERO=2").field("DATECIRC"), store::Value(QString("")));
 }
 
 TEST_F(WritingWindow, TakesTheLastRowOfTheDeviceAndItsDate) {
@@ -113,6 +162,20 @@ TEST_F(WritingWindow, AnUnreadableExamDateEmptiesBothFieldsOfTheTheoreticalStart
     Form5& form = newExam();
     write(form.sheet.TxtDate, "hier");
     write(form.sheet.Txt1Ter(2), "01/03/2002");
+    EXPECT_EQ(world_.boxes.said, QStringList({kDateFormat}));
+    EXPECT_EQ(form.sheet.Txt1Ter(2).text(), "");
+    EXPECT_EQ(form.sheet.Txt1Ter(3).text(), "");
+    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "");
+}
+
+TEST_F(WritingWindow, ATheoreticalStartBeyond16BitsOfDaysIsRefusedToo) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(2), "01/03/2002");
+    // 32,767 days before 05/04/2002 is 19/07/1912.
+    write(form.sheet.Txt1Ter(3), "19/07/1912");
+    EXPECT_TRUE(world_.boxes.said.isEmpty());
+    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "4683");
+    write(form.sheet.Txt1Ter(3), "18/07/1912");
     EXPECT_EQ(world_.boxes.said, QStringList({kDateFormat}));
     EXPECT_EQ(form.sheet.Txt1Ter(2).text(), "");
     EXPECT_EQ(form.sheet.Txt1Ter(3).text(), "");
@@ -298,6 +361,53 @@ TEST_F(WritingWindow, TheFocusOffersWhatTheFieldHasInItsRow) {
     EXPECT_EQ(form.sheet.List2.text(), "2");
 }
 
+TEST_F(WritingWindow, EachFieldOffersWhatItsRowSays) {
+    for (const auto& [index, rubric] : kFirstTrimesterRubrics) {
+        if (index < 27) {
+            store(rubric, QString::number(rubric));
+        }
+    }
+    expectOffersOfEachField(newExam().sheet);
+}
+
+TEST_F(WritingWindow, TheCalendarTheListsAndTheErasingServeItsFields) {
+    store(16, "fin", "C");
+    Form5& form = newExam();
+    for (const int date : {2, 3, 4}) {
+        form.sheet.Txt1Ter(date).setFocus();
+        desk().act([&] { form.sheet.Calendar1.choose(QDate(2002, 3, 1)); });
+        EXPECT_EQ(form.sheet.Txt1Ter(date).text(), "01/03/2002");
+        EXPECT_EQ(form.focused(), &form.sheet.Txt1Ter(date + 1));
+    }
+    form.sheet.Txt1Ter(26).setFocus();
+    form.sheet.List1.setRow(0);
+    desk().act([&] { form.sheet.List1.doubleClick(); });
+    EXPECT_EQ(form.sheet.Txt1Ter(26).text(), "fin");
+    EXPECT_EQ(form.focused(), &form.sheet.Txt1Ter(1));
+    form.sheet.Txt1Ter(17).setFocus();
+    desk().act([&] { form.sheet.List2.doubleClick(); });
+    EXPECT_EQ(form.sheet.Txt1Ter(17).text(), "170");
+    press(form.sheet.CmdEfface);
+    EXPECT_EQ(form.sheet.Txt1Ter(17).text(), "");
+    EXPECT_EQ(form.focused(), &form.sheet.Txt1Ter(17));
+    form.sheet.Text1.setText("libre");
+    desk().act([&] { form.sheet.Text1.onEnter(); });
+    EXPECT_EQ(form.sheet.Txt1Ter(17).text(), " libre ");
+}
+
+TEST_F(WritingWindow, ARightClickGoesOnWithTheThirdEmbryoAloneInView) {
+    Form5& form = newExam();
+    form.sheet.Txt1Ter(7).setFocus();
+    desk().act([&] { form.sheet.List1.onRightClick(); });
+    EXPECT_EQ(form.focused(), &form.sheet.Txt1Ter(7));
+    press(form.sheet.CmdJ3);
+    desk().act([&] { form.sheet.List1.onRightClick(); });
+    EXPECT_EQ(form.focused(), &form.sheet.Txt1Ter(8));
+    form.sheet.Txt1Ter(26).setFocus();
+    desk().act([&] { form.sheet.List1.onRightClick(); });
+    EXPECT_EQ(form.focused(), &form.sheet.Txt1Ter(1));
+}
+
 TEST_F(WritingWindow, SavesNothingWithoutTheNumberOfEmbryos) {
     Form5& form = newExam();
     save(form);
@@ -397,6 +507,67 @@ TEST_F(WritingWindow, ASavedSingletonHasEmptyTextsForTheOtherEmbryos) {
     save(form);
     EXPECT_EQ(stored(2, "LCC2"), QStringList({""}));
     EXPECT_EQ(stored(2, "MORPHO3"), QStringList({""}));
+}
+
+TEST_F(WritingWindow, NoEmbryoIsANumberToo) {
+    Form5& form = newExam();
+    type(form.sheet.Txt1Ter(15), u'0');
+    save(form);
+    EXPECT_EQ(world_.boxes.said, QStringList({"Enregistré"}));
+    EXPECT_EQ(stored(2, "NBRE"), QStringList({"0"}));
+}
+
+TEST_F(WritingWindow, WhatWasTypedForAnEmbryoIsSavedThoughTheNumberIsLowered) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(15), "2");
+    press(form.sheet.CmdJ2);
+    write(form.sheet.Txt1Ter(29), "61");
+    write(form.sheet.Txt1Ter(15), "1");
+    EXPECT_TRUE(form.sheet.FrameJ2.visible());
+    save(form);
+    EXPECT_EQ(stored(2, "LCC2"), QStringList({"61"}));
+    EXPECT_EQ(stored(2, "NBRE"), QStringList({"1"}));
+}
+
+TEST_F(WritingWindow, DatesAndMeasuresThatMakeNoSenseAreSavedAsTyped) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(15), "1");
+    write(form.sheet.TxtDate, "hier");
+    for (const int index : {2, 3, 4, 18, 21}) {
+        write(form.sheet.Txt1Ter(index), QStringLiteral("n%1").arg(index));
+    }
+    save(form);
+    for (const auto& [field, text] : std::initializer_list<std::pair<const char*, const char*>>{
+             {"DATEXAM", "hier"}, {"DDR", "n2"}, {"DG", "n3"}, {"DGUS", "n4"}, {"LCC", "n18"}, {"NUQUE", "n21"}}) {
+        EXPECT_EQ(stored(2, field), QStringList({text})) << field;
+    }
+}
+
+TEST_F(WritingWindow, AsksUnderANormalPointer) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(15), "1");
+    world_.boxes.whenAsked = [&form] { EXPECT_EQ(form.pointer(), forms::Pointer::Normal); };
+    save(form);
+    EXPECT_EQ(world_.boxes.asked.size(), 1);
+}
+
+TEST_F(WritingWindow, AnOvertypedKindIsSavedAndOpensTheOtherView) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(15), "1");
+    write(form.sheet.TxtTypecho, "2");
+    save(form);
+    EXPECT_EQ(stored(2, "TYPECHO"), QStringList({"2"}));
+    EXPECT_TRUE(shown("Form10"));
+    EXPECT_FALSE(shown("Form6"));
+    EXPECT_FALSE(shown("Form5"));
+}
+
+TEST_F(WritingWindow, LeavingItAsksNothingAndSavesNothing) {
+    Form5& form = newExam();
+    write(form.sheet.Txt1Ter(15), "1");
+    press(form.CmdQuitter);
+    EXPECT_TRUE(world_.boxes.asked.isEmpty());
+    EXPECT_TRUE(stored(2, "NUMECHO").isEmpty());
 }
 
 TEST_F(WritingWindow, ANumberOfEmbryosThatIsNoneIsSavedAsZero) {

@@ -70,6 +70,37 @@ TEST_F(ViewingWindow, ShowsEachFieldOfTheRecord) {
     }
 }
 
+TEST_F(ViewingWindow, ItsControlsHaveTheirCaptionsAndTheirNumbers) {
+    const std::vector<std::pair<const char*, const char*>> captions{{"Command1", "&Cpt Rendu 1T"},
+                                                                    {"Command2", "Cpt &Datation"},
+                                                                    {"Command3", "&Photos"},
+                                                                    {"CptrD", "Compte Rendu Détaillé"},
+                                                                    {"CptrM", "Compte Rendu Minimum"},
+                                                                    {"Intro", "Avec Introduction"},
+                                                                    {"Cptrendu", "Compte Rendu"},
+                                                                    {"Datation", "Datation"},
+                                                                    {"Echo1T", "Echo 1er Ter"},
+                                                                    {"Echo2T", "Echo 2 - 3 ème Ter"},
+                                                                    {"Frame12", "Voir les autres Echos "},
+                                                                    {"CmdPrem", "1&er"},
+                                                                    {"CmdRec", "&<"},
+                                                                    {"CmdAv", "&>"},
+                                                                    {"CmdDer", "De&r"},
+                                                                    {"Frame5", "G Multiple"},
+                                                                    {"CmdJ1", "J1"},
+                                                                    {"CmdJ2", "J2"},
+                                                                    {"CmdJ3", "J3"}};
+    addExam(2, 1, "10/01/2002");
+    const Form6& form = viewLast();
+    for (const auto& [control, caption] : captions) {
+        EXPECT_EQ(form.find(QString(control))->text(), caption) << control;
+    }
+    EXPECT_EQ(form.find(u"FrameJ1", 0), &form.FrameJ1);
+    EXPECT_EQ(form.find(u"FrameJ2", 1), &form.FrameJ2);
+    EXPECT_EQ(form.find(u"FrameJ3", 2), &form.FrameJ3);
+    EXPECT_EQ(form.find(u"Frame5", 3), &form.Frame5);
+}
+
 TEST_F(ViewingWindow, CanBeReadButNotWritten) {
     threeExams();
     for (const forms::Control* control : viewLast().controls()) {

@@ -1,6 +1,7 @@
 #include "exams/form7.h"
 
 #include "exams/exam_windows.h"
+#include "exams/first_trimester_offers.h"
 
 namespace exams {
 namespace {
@@ -53,6 +54,72 @@ TEST_F(CorrectionWindow, LoadsTheExamInView) {
     EXPECT_TRUE(form.sheet.Frame5.visible() && form.sheet.CmdJ3.visible());
     EXPECT_TRUE(shown("Form6"));
     EXPECT_TRUE(form.exclusive());
+}
+
+TEST_F(CorrectionWindow, LoadsAndSavesEachFieldInTheBoxOfItsNumber) {
+    const QStringList fields{"BMI",    "OPERATEUR", "DDR",     "DG",   "DGUS",      "MODEXAM", "CONDITIONS", "INDI",
+                             "UTERUS", "ANNEXES",   "DOUGLAS", "NBRS", "SITUATION", "DIM",     "ASPECT",     "NBRE",
+                             "MA",     "AC",        "LCC",     "BIP",  "FEM",       "NUQUE",   "OSNEZ",      "MORPHO",
+                             "LA",     "PL",        "CONCLU1", "MA2",  "AC2",       "LCC2",    "BIP2",       "FEM2",
+                             "NUQUE2", "OSNEZ2",    "MORPHO2", "MA3",  "AC3",       "LCC3",    "BIP3",       "FEM3",
+                             "NUQUE3", "OSNEZ3",    "MORPHO3"};
+    ASSERT_EQ(fields.size(), 43);
+    fakes::Fields record{{"TYPECHO", "1"}};
+    for (const QString& field : fields) {
+        record << std::pair(field, store::Value("~" + field));
+    }
+    addExam(3, 1, "05/04/2002", record);
+    viewLast("MARTIN");
+    Form7& form = correct();
+    for (int i = 0; i < fields.size(); ++i) {
+        EXPECT_EQ(form.sheet.Txt1Ter(i).text(), "~" + fields[i]) << i;
+        write(form.sheet.Txt1Ter(i), QString::number(i));
+    }
+    save(true);
+    for (int i = 0; i < fields.size(); ++i) {
+        EXPECT_EQ(stored(3, fields[i]), QStringList({QString::number(i)})) << i;
+    }
+}
+
+TEST_F(CorrectionWindow, ItsControlsHaveTheirCaptionsAndTheirNumbers) {
+    const std::vector<std::pair<const char*, const char*>> captions{{"CmdModifs", "Enregistrer Modifs"},
+                                                                    {"CmdQuitter", "Quitter sans Enregistrer"},
+                                                                    {"Frame5", "G Multiple"},
+                                                                    {"CmdJ1", "J1"},
+                                                                    {"CmdJ2", "J2"},
+                                                                    {"CmdJ3", "J3"},
+                                                                    {"FrameJ1", "Embryon"},
+                                                                    {"FrameJ2", "Embryon N°2"},
+                                                                    {"FrameJ3", "Embryon N°3"}};
+    const Form7& form = openOnSecond();
+    for (const auto& [control, caption] : captions) {
+        EXPECT_EQ(form.find(QString(control))->text(), caption) << control;
+    }
+    EXPECT_EQ(form.find(u"FrameJ3", 2), &form.sheet.FrameJ3);
+    EXPECT_EQ(form.find(u"Frame5", 3), &form.sheet.Frame5);
+}
+
+TEST_F(CorrectionWindow, TheCalendarTheListsAndTheErasingServeItsFields) {
+    store(16, "fin", "C");
+    Form7& form = openOnSecond();
+    form.sheet.Txt1Ter(4).setFocus();
+    desk().act([&] { form.sheet.Calendar1.choose(QDate(2002, 3, 1)); });
+    EXPECT_EQ(form.sheet.Txt1Ter(4).text(), "01/03/2002");
+    EXPECT_EQ(form.focused(), &form.sheet.Txt1Ter(5));
+    form.sheet.Txt1Ter(26).setFocus();
+    form.sheet.List1.setRow(0);
+    desk().act([&] { form.sheet.List1.doubleClick(); });
+    EXPECT_EQ(form.sheet.Txt1Ter(26).text(), "avantfin");
+    EXPECT_EQ(form.focused(), &form.sheet.Txt1Ter(1));
+    form.sheet.Txt1Ter(17).setFocus();
+    desk().act([&] { form.sheet.List2.doubleClick(); });
+    desk().act([&] { form.sheet.List2.doubleClick(); });
+    EXPECT_EQ(form.sheet.Txt1Ter(17).text(), "170 170");
+    press(form.sheet.CmdEfface);
+    EXPECT_EQ(form.sheet.Txt1Ter(17).text(), "");
+    form.sheet.Text1.setText("libre");
+    save(true);
+    EXPECT_EQ(stored(2, "AC").at(1), " libre ");
 }
 
 TEST_F(CorrectionWindow, TheNumberOfEmbryosShowsThePanelAtLoad) {
@@ -123,6 +190,15 @@ TEST_F(CorrectionWindow, OffersWhatTheWritingWindowDoes) {
     form.sheet.Txt1Ter(17).setFocus();
     EXPECT_EQ(form.sheet.List2.items().first(), "130");
     EXPECT_EQ(form.sheet.List2.text(), "170");
+}
+
+TEST_F(CorrectionWindow, EachFieldOffersWhatItsRowSays) {
+    for (const auto& [index, rubric] : kFirstTrimesterRubrics) {
+        if (index < 27) {
+            store(rubric, QString::number(rubric));
+        }
+    }
+    expectOffersOfEachField(openOnSecond().sheet);
 }
 
 TEST_F(CorrectionWindow, SavesTheFieldsButTheCircumferences) {
