@@ -11,6 +11,7 @@
 #include <QStyleOption>
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 // A static library hands over its resources only when asked to.
 static void loadArtwork() {
@@ -23,46 +24,6 @@ namespace {
 constexpr qreal kTextPoints = 10;
 // Kilobytes. The toolkit's own 10 MB fill up with the pictures of windows that are gone.
 constexpr int kPixmapCache = 2048;
-
-/// Draws the frame of a text or list that has the focus in the accent colour, as that of a field of one line, gives
-/// boxes and circles to tick an edge that a dark palette shows, and keeps captions off the edges of their buttons.
-class HouseStyle final : public QProxyStyle {
-public:
-    using QProxyStyle::QProxyStyle;
-
-    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
-                     const QWidget* widget) const override {
-        QProxyStyle::drawControl(element, option, painter, widget);
-        const bool framed = element == CE_ShapedFrame && qobject_cast<const QAbstractScrollArea*>(widget);
-        if (framed && option->state.testFlag(State_HasFocus)) {
-            painter->save();
-            painter->setPen(option->palette.color(QPalette::Highlight));
-            painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
-            painter->restore();
-        }
-    }
-
-    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
-                           const QWidget* widget) const override {
-        const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-        return type == CT_PushButton ? size.expandedTo({contents.width() + 3 * kGrid, 0}) : size;
-    }
-
-    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                       const QWidget* widget) const override {
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
-        const bool circle = element == PE_IndicatorRadioButton;
-        if ((circle || element == PE_IndicatorCheckBox) && isDark()) {
-            painter->save();
-            painter->setRenderHint(QPainter::Antialiasing, circle);
-            painter->setPen(option->palette.color(QPalette::PlaceholderText));
-            painter->setBrush(Qt::NoBrush);
-            const QRect edge = option->rect.adjusted(0, 0, -1, -1);
-            circle ? painter->drawEllipse(edge) : painter->drawRect(edge);
-            painter->restore();
-        }
-    }
-};
 
 // As the contrast of texts is reckoned for readers with weak sight.
 double luminance(const QColor& colour) {
@@ -107,7 +68,7 @@ QPalette darkPalette() {
     return palette;
 }
 
-QPalette basePalette() {
+QPalette basePalette(QPalette palette) {
     const QByteArray wanted = qgetenv("VERANOX_PALETTE");
     if (wanted == "claire") {
         return lightPalette();
@@ -115,7 +76,6 @@ QPalette basePalette() {
     if (wanted == "sombre") {
         return darkPalette();
     }
-    QPalette palette = QApplication::palette();
     const bool dark = palette.color(QPalette::Window).lightness() < 128;
     const QPalette own = dark ? darkPalette() : lightPalette();
     for (const auto role : {QPalette::Highlight, QPalette::HighlightedText, QPalette::Link}) {
@@ -125,12 +85,96 @@ QPalette basePalette() {
 }
 
 // Captions and hints stand back, and are still read by weak eyes.
-QPalette wantedPalette() {
-    QPalette palette = basePalette();
+QPalette wantedPalette(const QPalette& given) {
+    QPalette palette = basePalette(given);
     palette.setColor(QPalette::PlaceholderText,
                      mixed(palette.color(QPalette::Text), palette.color(QPalette::Base), 0.3));
     return palette;
 }
+
+/// The toolkit keeps pictures of what it has drawn for each palette, and the names of those pictures for good. To it a
+/// palette made anew is another one, however alike they look; here it is the first that looked so.
+class KnownPalettes {
+public:
+    QPalette known(const QPalette& palette) {
+        const auto met = std::ranges::find(palettes_, palette);
+        QPalette known = met == palettes_.end() ? palettes_.emplace_back(palette) : *met;
+        known.setCurrentColorGroup(palette.currentColorGroup());
+        return known;
+    }
+
+private:
+    std::vector<QPalette> palettes_;
+};
+
+/// Draws the frame of a text or list that has the focus in the accent colour, as that of a field of one line, gives
+/// boxes and circles to tick an edge that a dark palette shows, and keeps captions off the edges of their buttons.
+class HouseStyle final : public QProxyStyle {
+public:
+    using QProxyStyle::polish;
+    using QProxyStyle::QProxyStyle;
+
+    // Not set on the application: what is set there each widget takes into a palette of its own.
+    void polish(QPalette& palette) override { palette = wantedPalette(palette); }
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        const bool framed = element == CE_ShapedFrame && qobject_cast<const QAbstractScrollArea*>(widget);
+        if (framed && option->state.testFlag(State_HasFocus)) {
+            painter->save();
+            painter->setPen(option->palette.color(QPalette::Highlight));
+            painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+            painter->restore();
+        }
+    }
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override {
+        const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+        return type == CT_PushButton ? size.expandedTo({contents.width() + 3 * kGrid, 0}) : size;
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        const auto draw = [&](const QStyleOption& known) {
+            QProxyStyle::drawPrimitive(element, &known, painter, widget);
+        };
+        if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
+            draw(withKnownPalette(*button));
+        } else if (const auto* tool = qstyleoption_cast<const QStyleOptionToolButton*>(option)) {
+            draw(withKnownPalette(*tool));
+        } else if (option->type == QStyleOption::SO_Default) {
+            draw(withKnownPalette(*option));
+        } else {
+            draw(*option);
+        }
+        const bool circle = element == PE_IndicatorRadioButton;
+        if ((circle || element == PE_IndicatorCheckBox) && isDark()) {
+            drawEdge(circle, *option, *painter);
+        }
+    }
+
+private:
+    template <class Option>
+    Option withKnownPalette(const Option& option) const {
+        Option known(option);
+        known.palette = palettes_.known(option.palette);
+        return known;
+    }
+
+    static void drawEdge(bool circle, const QStyleOption& option, QPainter& painter) {
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing, circle);
+        painter.setPen(option.palette.color(QPalette::PlaceholderText));
+        painter.setBrush(Qt::NoBrush);
+        const QRect edge = option.rect.adjusted(0, 0, -1, -1);
+        circle ? painter.drawEllipse(edge) : painter.drawRect(edge);
+        painter.restore();
+    }
+
+    mutable KnownPalettes palettes_;
+};
 
 }  // namespace
 
@@ -144,7 +188,6 @@ void apply(QApplication& application) {
     loadArtwork();
     QPixmapCache::setCacheLimit(kPixmapCache);
     QApplication::setStyle(new HouseStyle(QStringLiteral("Fusion")));
-    QApplication::setPalette(wantedPalette());
     QFont font = QApplication::font();
     font.setPointSizeF(kTextPoints);
     QApplication::setFont(font);

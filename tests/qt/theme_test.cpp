@@ -3,9 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QMenu>
 #include <QPalette>
+#include <QPushButton>
+#include <QToolButton>
 #include <algorithm>
 #include <cmath>
+
+#include "heap.h"
 
 namespace qt {
 namespace {
@@ -49,6 +54,41 @@ TEST_P(Palettes, LetCaptionsAndHintsBeReadByWeakEyes) {
 }
 
 INSTANTIATE_TEST_SUITE_P(LightAndDark, Palettes, ::testing::Values("claire", "sombre"));
+
+TEST(Theme, GivesWidgetsOnePalette) {
+    const QPushButton one;
+    const QPushButton other;
+    EXPECT_EQ(one.palette().cacheKey(), QApplication::palette().cacheKey());
+    EXPECT_EQ(other.palette().cacheKey(), one.palette().cacheKey());
+}
+
+/// Draws a button on a ground of its own so many times, each time a new one.
+template <class Button>
+void drawAnew(int times) {
+    for (int i = 0; i < times; ++i) {
+        Button button;
+        QMenu menu;
+        QPalette palette = button.palette();
+        palette.setColor(QPalette::Window, Qt::yellow);
+        button.setPalette(palette);
+        button.setMenu(&menu);
+        button.grab();
+    }
+}
+
+TEST(Theme, KeepsNothingOfButtonsOnAGroundOfTheirOwn) {
+    if (bytesInUse() == 0) {
+        GTEST_SKIP() << "no figures of this heap";
+    }
+    drawAnew<QPushButton>(50);
+    drawAnew<QToolButton>(50);
+    const std::size_t before = bytesInUse();
+    constexpr int kTimes = 500;
+    drawAnew<QPushButton>(kTimes);
+    drawAnew<QToolButton>(kTimes);
+    // The name of a picture is some 200 bytes.
+    EXPECT_LT(bytesInUse(), before + kTimes * std::size_t{100});
+}
 
 }  // namespace
 }  // namespace qt

@@ -17,6 +17,7 @@
 #include "dossier/form4.h"
 #include "exams/form8.h"
 #include "fakes/world.h"
+#include "heap.h"
 #include "practice/practice.h"
 #include "qt/form_window.h"
 #include "qt/stage.h"
@@ -422,6 +423,30 @@ TEST_F(AllWindows, GiveNoCaptionOfTheirOwnAMnemonicThatIsTaken) {
             }
         }
     }
+}
+
+TEST_F(AllWindows, TakeNoMoreMemoryEachTimeTheyComeUp) {
+    if (bytesInUse() == 0) {
+        GTEST_SKIP() << "no figures of this heap";
+    }
+    const std::vector<forms::Form*> forms = program_.desk().loaded();
+    const auto comeUp = [&](std::size_t times) {
+        for (std::size_t i = 0; i < times * forms.size(); ++i) {
+            forms::Form& form = *forms[i % forms.size()];
+            stage_.formForgotten(form);
+            stage_.formShown(form);
+            QApplication::processEvents();
+            QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            stage_.windowOf(form)->grab();
+        }
+    };
+    comeUp(6);
+    const std::size_t before = bytesInUse();
+    constexpr std::size_t kTimes = 10;
+    comeUp(kTimes);
+    // Bytes a time: the toolkit's own tables still fill a little, one widget that stays is more.
+    constexpr std::size_t kMost = 1000;
+    EXPECT_LT(bytesInUse(), before + kTimes * forms.size() * kMost);
 }
 
 }  // namespace
