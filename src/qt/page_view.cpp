@@ -83,7 +83,8 @@ void PageView::setZoom(double zoom) {
 }
 
 void PageView::release() {
-    edit_->disconnect();
+    // Not disconnect(): by the editor's last signal the toolkit forgets what it keeps of it.
+    edit_->blockSignals(true);
     edit_->document()->documentLayout()->disconnect(this);
     edit_->setDocument(new QTextDocument(edit_));
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QBuffer>
 #include <QClipboard>
@@ -352,6 +353,17 @@ TEST(PageViewWidget, GoesWhileItHasTheFocus) {
     ASSERT_TRUE(page->hasFocus());
     page->release();
     delete page;
+}
+
+// A later window's editor may stand where this one stood in memory: a screen reader must not be told of the old one.
+TEST_F(EditorWindow, LeavesNothingToAScreenReaderWhenItIsLeft) {
+    open();
+    const QAccessible::Id page = QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&view().edit()));
+    ASSERT_NE(QAccessible::accessibleInterface(page), nullptr);
+    press("Quitter");
+    settle();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(QAccessible::accessibleInterface(page), nullptr);
 }
 
 TEST_F(EditorWindow, PrintsFromItsMenuBar) {
