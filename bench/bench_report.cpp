@@ -77,8 +77,8 @@ Report longReport() {
 }
 
 void layOut(forms::RichText& box) {
-    measureInTwips(box.document());
     box.document().setTextWidth(kLineWidth);
+    measureInTwips(box.document());
     benchmark::DoNotOptimize(box.document().size());
 }
 

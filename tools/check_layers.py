@@ -36,6 +36,7 @@ CLOSED = {("gyneco", "exams")}
 LIBRARIES = {
     r"<sqlite3\.h>": {"store"},
     r"<turbojpeg\.h>": {"pictures"},
+    r"<cairo.*\.h>": {"qt"},
     r"<(QWidget|QtWidgets|QApplication|QDialog|QMainWindow|QWindow|QPrinter|QPrintDialog|QSvg\w*|gst/.*)>": {
         "qt",
         "app",

@@ -5,7 +5,10 @@
 #include <functional>
 #include <memory>
 
+class QColor;
+class QGlyphRun;
 class QPainter;
+class QPointF;
 
 namespace ports {
 
@@ -35,6 +38,18 @@ public:
     virtual void end() {}
 };
 
+/// A document of text alone on its way to a printer.
+class TextJob {
+public:
+    virtual ~TextJob() = default;
+    /// Draws on the page at hand; `at` is in twips from the first point that can be printed.
+    virtual void draw(const QGlyphRun& glyphs, QPointF at, const QColor& color) = 0;
+    /// Throws DeviceError if the printer refuses.
+    virtual void newPage() = 0;
+    /// Ends the document; nothing is drawn after it. Throws DeviceError where it can't be kept.
+    virtual void end() = 0;
+};
+
 /// One printer, with the paper it is to print on.
 class Printer {
 public:
@@ -42,6 +57,9 @@ public:
     virtual PageGeometry geometry() const = 0;
     /// Opens a document. Throws DeviceError if that fails.
     virtual std::unique_ptr<PrintJob> open(const QString& title) = 0;
+    /// Opens a document of text alone; it may take a shorter way than all that a painter draws. Throws DeviceError if
+    /// that fails.
+    virtual std::unique_ptr<TextJob> openText(const QString& title);
 };
 
 /// The printers of the machine.

@@ -5,19 +5,19 @@
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QDir>
-#include <QFileInfo>
+#include <QFile>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
-#include <QTemporaryFile>
 #include <cmath>
-#include <cstdio>
 #include <optional>
 
 #include "base/errors.h"
+#include "qt/file_in_making.h"
+#include "qt/pdf_text.h"
 
 namespace qt {
 namespace {
@@ -32,53 +32,47 @@ std::int32_t twips(double millimetres) {
     throw base::RuntimeError(base::ErrorNumber::DeviceError);
 }
 
-/// The file of a PDF under a name of its own beside it, until it is whole: what stood in its place stays till then.
+/// The file that a printer makes a PDF of.
 class PdfInMaking {
 public:
-    explicit PdfInMaking(QPrinter& printer)
-        : printer_(printer),
-          wanted_(printer.outputFileName()),
-          making_(QFileInfo(wanted_).absolutePath() + QStringLiteral("/.XXXXXX.pdf")) {
-        if (!making_.open()) {
-            failOnDevice();
-        }
-        printer_.setOutputFileName(making_.fileName());
+    explicit PdfInMaking(QPrinter& printer) : printer_(printer), made_(printer.outputFileName()) {
+        printer_.setOutputFileName(made_.file().fileName());
     }
-    ~PdfInMaking() { printer_.setOutputFileName(wanted_); }
+    ~PdfInMaking() { printer_.setOutputFileName(made_.wanted()); }
     PdfInMaking(const PdfInMaking&) = delete;
     PdfInMaking& operator=(const PdfInMaking&) = delete;
 
     void publish() {
-        const QByteArray from = QFile::encodeName(making_.fileName()), to = QFile::encodeName(wanted_);
-        if (QFileInfo::exists(wanted_)) {
-            making_.setPermissions(QFile::permissions(wanted_));
-        }
-        if (!isWhole() || ::rename(from.constData(), to.constData()) != 0) {
+        if (!isWhole()) {
             failOnDevice();
         }
-        making_.setAutoRemove(false);
+        made_.publish();
     }
 
 private:
     // The toolkit doesn't tell what it couldn't write; the mark of the end is missing then.
     bool isWhole() {
         constexpr qint64 kTail = 64;
-        const bool found = making_.seek(qMax<qint64>(0, making_.size() - kTail));
-        return found && making_.readAll().contains("%%EOF") && ::fsync(making_.handle()) == 0;
+        QFile& file = made_.file();
+        const bool found = file.seek(qMax<qint64>(0, file.size() - kTail));
+        return found && file.readAll().contains("%%EOF") && ::fsync(file.handle()) == 0;
     }
 
     QPrinter& printer_;
-    QString wanted_;
-    QTemporaryFile making_;
+    FileInMaking made_;
 };
 
 /// Whether pages go to paper, or to the screen alone.
 enum class Pages { Printed, Seen };
 
+bool makesPdf(const QPrinter& printer, Pages pages) {
+    return pages == Pages::Printed && printer.outputFormat() == QPrinter::PdfFormat;
+}
+
 class RealJob final : public ports::PrintJob {
 public:
     RealJob(std::shared_ptr<QPrinter> printer, Pages pages) : printer_(std::move(printer)) {
-        if (pages == Pages::Printed && printer_->outputFormat() == QPrinter::PdfFormat) {
+        if (makesPdf(*printer_, pages)) {
             pdf_.emplace(*printer_);
         }
         if (!painter_.begin(printer_.get())) {
@@ -133,6 +127,19 @@ public:
     std::unique_ptr<ports::PrintJob> open(const QString& title) override {
         printer_->setDocName(title);
         return std::make_unique<RealJob>(printer_, pages_);
+    }
+
+    std::unique_ptr<ports::TextJob> openText(const QString& title) override {
+        if (!makesPdf(*printer_, pages_)) {
+            return Printer::openText(title);
+        }
+        constexpr double kPointsPerMillimetre = 72 / 25.4;
+        const QPageLayout layout = printer_->pageLayout();
+        return std::make_unique<PdfText>(
+            printer_->outputFileName(), title,
+            PdfSheet{.size = layout.fullRect(QPageLayout::Millimeter).size() * kPointsPerMillimetre,
+                     .origin = layout.paintRect(QPageLayout::Millimeter).topLeft() * kPointsPerMillimetre,
+                     .grey = printer_->colorMode() == QPrinter::GrayScale});
     }
 
 private:
@@ -194,7 +201,7 @@ std::unique_ptr<ports::Printer> RealPrinters::standard() {
         return nullptr;
     }
     putA4Upright(*printer);
-    return std::make_unique<RealPrinter>(std::move(printer));
+    return std::make_unique<RealPrinter>(std::move(printer), Pages::Printed);
 }
 
 std::shared_ptr<QPrinter> RealPrinters::newPrinter() const {
@@ -224,7 +231,7 @@ void RealPrinters::choose(const Print& print) {
     boundary.rethrow();
     if (accepted) {
         settle(*printer);
-        RealPrinter chosen(printer);
+        RealPrinter chosen(printer, Pages::Printed);
         print(chosen);
     }
 }

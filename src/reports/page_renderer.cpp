@@ -1,7 +1,8 @@
 #include "reports/page_renderer.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QPainter>
+#include <QColor>
+#include <QGlyphRun>
 #include <QTextBlock>
 #include <QTextDocument>
 
@@ -13,13 +14,31 @@ namespace {
 // Heights of lines are sums of fractions: a line that fills the rest of a page to a hair still fits.
 constexpr double kHair = 0.01;
 
+QColor colorOf(const QTextFragment& fragment) {
+    const QBrush brush = fragment.charFormat().foreground();
+    return brush.style() == Qt::NoBrush ? QColor(Qt::black) : brush.color();
+}
+
+// The line's upper left corner in the layout lies at the layout's own origin.
+void draw(const QTextBlock& block, const QTextLine& line, QPointF origin, ports::TextJob& job) {
+    const int start = block.position() + line.textStart();
+    const int end = start + line.textLength();
+    for (auto i = block.begin(); !i.atEnd(); ++i) {
+        const QTextFragment fragment = i.fragment();
+        const int from = std::max(start, fragment.position());
+        const int length = std::min(end, fragment.position() + fragment.length()) - from;
+        if (length > 0) {
+            for (const QGlyphRun& glyphs : line.glyphRuns(from - block.position(), length)) {
+                job.draw(glyphs, origin, colorOf(fragment));
+            }
+        }
+    }
+}
+
 }  // namespace
 
-TextRenderer::TextRenderer(const QTextDocument& text, const Rectangle& drawing, const ports::PageGeometry& page)
-    : text_(text.clone()),
-      drawing_(drawing),
-      scaleX_(static_cast<double>(page.dpiX) / kTwipsPerInch),
-      scaleY_(static_cast<double>(page.dpiY) / kTwipsPerInch) {
+TextRenderer::TextRenderer(const QTextDocument& text, const Rectangle& drawing)
+    : text_(text.clone()), drawing_(drawing) {
     // Each paragraph keeps its glyphs, which are drawn as soon as it is laid out; and the width comes first, so that it
     // is laid out once.
     for (QTextBlock block = text_->begin(); block.isValid(); block = block.next()) {
@@ -37,9 +56,7 @@ int TextRenderer::textLength() const {
     return text_->characterCount() - 1;
 }
 
-int TextRenderer::render(QPainter& painter, int first) {
-    painter.save();
-    painter.scale(scaleX_, scaleY_);
+int TextRenderer::render(ports::TextJob& job, int first) {
     double y = drawing_.top;
     bool any = false;
     int next = textLength();
@@ -54,12 +71,11 @@ int TextRenderer::render(QPainter& painter, int first) {
                 next = start;
                 break;
             }
-            line.draw(&painter, QPointF(drawing_.left, y - line.y()));
+            draw(block, line, QPointF(drawing_.left, y - line.y()), job);
             y += line.height();
             any = true;
         }
     }
-    painter.restore();
     return next;
 }
 

@@ -5,8 +5,9 @@
 
 #include "ports/printer.h"
 
-class QPainter;
+class QTextBlock;
 class QTextDocument;
+class QTextLine;
 
 namespace reports {
 
@@ -25,25 +26,23 @@ public:
     virtual ~PageRenderer() = default;
     /// Draws the page that starts with the character `first`. Returns the first character that didn't fit, or the
     /// length of the text if all did.
-    virtual int render(QPainter& painter, int first) = 0;
+    virtual int render(ports::TextJob& job, int first) = 0;
 };
 
 /// Draws a copy of a document, laid out for the width of a rectangle of the page.
 class TextRenderer final : public PageRenderer {
 public:
-    TextRenderer(const QTextDocument& text, const Rectangle& drawing, const ports::PageGeometry& page);
+    TextRenderer(const QTextDocument& text, const Rectangle& drawing);
     ~TextRenderer() override;
 
     /// In characters; a line end is one.
     int textLength() const;
     /// Each page has one line at least, so that every text comes to its end.
-    int render(QPainter& painter, int first) override;
+    int render(ports::TextJob& job, int first) override;
 
 private:
     std::unique_ptr<QTextDocument> text_;
     Rectangle drawing_;
-    double scaleX_;
-    double scaleY_;
 };
 
 }  // namespace reports

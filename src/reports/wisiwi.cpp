@@ -25,18 +25,17 @@ Rectangle drawingRectangle(const ports::PageGeometry& page, const Margins& margi
             subtract(subtract(page.height, margins.bottom), topOffset)};
 }
 
-void printPages(PageRenderer& renderer, ports::PrintJob& job, int textLength) {
-    for (int first = 0; (first = renderer.render(job.painter(), first)) < textLength;) {
+void printPages(PageRenderer& renderer, ports::TextJob& job, int textLength) {
+    for (int first = 0; (first = renderer.render(job, first)) < textLength;) {
         job.newPage();
     }
     job.end();
 }
 
 void PrintRTF(const forms::RichText& editor, ports::Printer& printer, const QString& title, const Margins& margins) {
-    const ports::PageGeometry page = printer.geometry();
-    const Rectangle drawing = drawingRectangle(page, margins);
-    const std::unique_ptr<ports::PrintJob> job = printer.open(title);
-    TextRenderer renderer(editor.document(), drawing, page);
+    const Rectangle drawing = drawingRectangle(printer.geometry(), margins);
+    const std::unique_ptr<ports::TextJob> job = printer.openText(title);
+    TextRenderer renderer(editor.document(), drawing);
     printPages(renderer, *job, renderer.textLength());
 }
 

@@ -35,7 +35,7 @@ PrintableArea WYSIWYG_RTF(forms::RichText& editor, const ports::PageGeometry& pa
 Rectangle drawingRectangle(const ports::PageGeometry& page, const Margins& margins);
 
 /// Prints page after page until the text has come to its end. Throws DeviceError.
-void printPages(PageRenderer& renderer, ports::PrintJob& job, int textLength);
+void printPages(PageRenderer& renderer, ports::TextJob& job, int textLength);
 
 /// Prints the whole text between the margins. Throws DeviceError and Overflow.
 void PrintRTF(const forms::RichText& editor, ports::Printer& printer, const QString& title, const Margins& margins);

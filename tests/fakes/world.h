@@ -135,9 +135,9 @@ private:
     class Paper final : public ports::PrintJob {
     public:
         explicit Paper(Job& job) : job_(job), painter_(&page_) {}
-        ~Paper() override { job_.ended = true; }
         QPainter& painter() override { return painter_; }
         void newPage() override { ++job_.pages; }
+        void end() override { job_.ended = true; }
 
     private:
         Job& job_;

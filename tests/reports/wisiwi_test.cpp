@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QFontInfo>
-#include <QImage>
-#include <QPainter>
 #include <limits>
 
 #include "fakes/world.h"
@@ -28,6 +26,8 @@ protected:
     Wisiwi() {
         form.Box.SelFontName("Arial");
         form.Box.SelFontSize(12);
+        printers.page = fakes::kA4;
+        job = printers.standard()->openText("Essai");
     }
     base::ErrorNumber setUpError(const ports::PageGeometry& page, const Margins& margins) {
         try {
@@ -39,26 +39,26 @@ protected:
     }
     std::vector<int> pageStarts(TextRenderer& renderer) {
         std::vector<int> starts{0};
-        for (int next = 0; (next = renderer.render(painter, next)) < renderer.textLength();) {
+        for (int next = 0; (next = renderer.render(*job, next)) < renderer.textLength();) {
             starts.push_back(next);
         }
         return starts;
     }
     TextRenderer rendererOf(const Margins& margins) {
-        return {form.Box.document(), drawingRectangle(fakes::kA4, margins), fakes::kA4};
+        return {form.Box.document(), drawingRectangle(fakes::kA4, margins)};
     }
 
     forms::Desk desk;
     Editor form{desk};
-    QImage image{1, 1, QImage::Format_RGB32};
-    QPainter painter{&image};
+    fakes::Printers printers;
+    std::unique_ptr<ports::TextJob> job;
 };
 
 /// Answers as it is told and writes down what it is asked.
 class ScriptedRenderer final : public PageRenderer {
 public:
     explicit ScriptedRenderer(std::vector<int> answers) : answers_(std::move(answers)) {}
-    int render(QPainter&, int first) override {
+    int render(ports::TextJob&, int first) override {
         asked.push_back(first);
         return answers_.at(asked.size() - 1);
     }
@@ -130,32 +130,26 @@ TEST_F(Wisiwi, CountsTheDrawingRectangleFromThePrintableCorner) {
 }
 
 TEST_F(Wisiwi, RendersATextOfOnePageOnce) {
-    fakes::Printers printers;
-    printers.page = fakes::kA4;
     ScriptedRenderer renderer({120});
-    printPages(renderer, *printers.standard()->open("Essai"), 120);
+    printPages(renderer, *job, 120);
     EXPECT_EQ(renderer.asked, std::vector<int>({0}));
     EXPECT_EQ(printers.jobs.front().pages, 1);
     EXPECT_TRUE(printers.jobs.front().ended);
 }
 
 TEST_F(Wisiwi, GoesOnFromTheFirstCharacterThatDidNotFit) {
-    fakes::Printers printers;
-    printers.page = fakes::kA4;
     ScriptedRenderer renderer({50, 90, 121});
-    printPages(renderer, *printers.standard()->open("Essai"), 120);
+    printPages(renderer, *job, 120);
     EXPECT_EQ(renderer.asked, std::vector<int>({0, 50, 90}));
     EXPECT_EQ(printers.jobs.front().pages, 3);
 }
 
 TEST_F(Wisiwi, OpensAndClosesTheJobOfAnEmptyText) {
-    fakes::Printers printers;
-    printers.page = fakes::kA4;
     PrintRTF(form.Box, *printers.standard(), "Vide", kPaperMargins);
-    ASSERT_EQ(printers.jobs.size(), 1u);
-    EXPECT_EQ(printers.jobs.front().title, "Vide");
-    EXPECT_EQ(printers.jobs.front().pages, 1);
-    EXPECT_TRUE(printers.jobs.front().ended);
+    ASSERT_EQ(printers.jobs.size(), 2u);
+    EXPECT_EQ(printers.jobs.back().title, "Vide");
+    EXPECT_EQ(printers.jobs.back().pages, 1);
+    EXPECT_TRUE(printers.jobs.back().ended);
 }
 
 TEST_F(Wisiwi, FillsAPageWithFiftyLinesOfTwelvePoints) {
@@ -182,18 +176,16 @@ TEST_F(Wisiwi, StartsAPageInTheMiddleOfAParagraphThatRunsOver) {
 
 TEST_F(Wisiwi, ComesToAnEndOnAPageThatHoldsNoLine) {
     form.Box.SelText("un\r\ndeux\r\ntrois");
-    TextRenderer renderer(form.Box.document(), {0, 0, 9000, 10}, fakes::kA4);
+    TextRenderer renderer(form.Box.document(), {0, 0, 9000, 10});
     EXPECT_EQ(pageStarts(renderer), std::vector<int>({0, 3, 8}));
 }
 
 TEST_F(Wisiwi, LeavesTheDocumentOfTheEditorAlone) {
     type(CptRendu1T(sampleExam("3"), Detail::Minimum, kIntroduction), form.Box);
     const QString before = form.Box.document().toHtml();
-    fakes::Printers printers;
-    printers.page = fakes::kA4;
     PrintRTF(form.Box, *printers.standard(), "Essai", kPaperMargins);
     EXPECT_EQ(form.Box.document().toHtml(), before);
-    EXPECT_EQ(printers.jobs.front().pages, 2);
+    EXPECT_EQ(printers.jobs.back().pages, 2);
 }
 
 }  // namespace
