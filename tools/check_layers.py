@@ -45,7 +45,7 @@ LIBRARIES = {
 }
 
 # The program starts no other one: nothing typed can reach a shell.
-STARTS_A_PROGRAM = r"\bQProcess\b|\b(system|popen|fork|exec[lv]p?e?|posix_spawnp?)\s*\("
+STARTS_A_PROGRAM = r"\bQProcess\b|\bQDesktopServices\b|\b(system|popen|fork|exec[lv]p?e?|posix_spawnp?)\s*\("
 
 
 def allowed_rooms(room: str) -> set:

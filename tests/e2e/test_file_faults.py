@@ -318,6 +318,37 @@ def test_a_jpeg_that_cant_be_saved_is_told_and_leaves_the_old_file(capture, faul
     assert file.read_bytes()[:3] == b"\xff\xd8\xff"
 
 
+def is_jpeg(content):
+    return content[:3] == b"\xff\xd8\xff" and content[-2:] == b"\xff\xd9"
+
+
+def test_a_program_killed_while_a_jpeg_is_replaced_leaves_a_whole_one(tmp_path):
+    file = tmp_path / "VIDEOTEK" / "cliche.jpg"
+    took = 0.05
+    for part in range(12):
+        port = ordinary_port(tmp_path)
+        port.practice(folder=str(tmp_path / f"cabinet{part}"))
+        port.start()
+        port.click("Form1.Command5")
+        grab(port, (20 * part, 30, 30))
+        port.dblclick("Form19.Image2(1)")
+        choose(port, file, 1)
+        port.click("Form19.Command5")
+        if part == 0:
+            began = time.monotonic()
+            port.click("FrmCpr.Command3")
+            took = time.monotonic() - began
+            assert is_jpeg(file.read_bytes())
+            assert port.end() == 0
+            continue
+        port.process.stdin.write('{"do": "click", "control": "FrmCpr.Command3"}\n')
+        port.process.stdin.flush()
+        time.sleep(took * part / 12)
+        port.process.kill()
+        port.process.wait(10)
+        assert any(is_jpeg(path.read_bytes()) for path in file.parent.iterdir())
+
+
 @contextlib.contextmanager
 def out_of_reach(path, port):
     path.chmod(0)

@@ -129,6 +129,22 @@ TEST_F(JpegLibrary, AnEncoderThatCantBeStartedIsToldAndLeavesTheOldFile) {
     EXPECT_EQ(failure(path("old.jpg")), "");
 }
 
+TEST_F(JpegLibrary, ANameThatGoesOnBehindANullCharacterIsRefused) {
+    put(path("old.jpg"), "old");
+    EXPECT_EQ(failure(path("old.jpg") + QChar(0) + ".jpg"), "Failed to save to JPG -1");
+    EXPECT_EQ(bytesOf(path("old.jpg")), "old");
+    EXPECT_EQ(files(), QStringList({"old.jpg"}));
+}
+
+TEST_F(JpegLibrary, WhatLiesUnderThePassingNameIsNotWrittenInto) {
+    put(path("other.txt"), "other");
+    const QString passing = path(QStringLiteral(".a.jpg.%1.nouveau").arg(::getpid()));
+    ASSERT_TRUE(QFile::link(path("other.txt"), passing));
+    EXPECT_TRUE(save(path("a.jpg")));
+    EXPECT_EQ(bytesOf(path("other.txt")), "other");
+    EXPECT_EQ(files(), QStringList({"a.jpg", "other.txt"}));
+}
+
 TEST_F(JpegLibrary, WithoutAPictureNothingIsSaved) {
     bitmap_.ClearUp();
     EXPECT_EQ(failure(path("a.jpg")), "Failed to save to JPG -1");
