@@ -166,6 +166,17 @@ def test_settings_that_cant_be_saved_are_told_and_stay_entered(sample, fault):
     assert sample.setting(key="SAUVE")["value"] == "/ailleurs/"
 
 
+def test_a_lock_that_a_killed_program_left_holds_nothing_up(sample):
+    gone = subprocess.Popen(["true"])
+    gone.wait()
+    lock = sample.folder / "user-settings.ini.lock"
+    lock.write_text(f"{gone.pid}\nveranox-port\n{socket.gethostname()}\n")
+    supervise(sample)
+    sample.click("Form22.Command2")
+    assert sample.boxes == []
+    assert sample.setting(key="SAUVE")["value"] == "/ailleurs/"
+
+
 def test_settings_that_cant_be_read_are_told_at_the_start_and_kept(tmp_path):
     port = ordinary_port(tmp_path)
     port.practice()
