@@ -131,7 +131,7 @@ TEST_F(JpegLibrary, AnEncoderThatCantBeStartedIsToldAndLeavesTheOldFile) {
 
 TEST_F(JpegLibrary, ANameThatGoesOnBehindANullCharacterIsRefused) {
     put(path("old.jpg"), "old");
-    EXPECT_EQ(failure(path("old.jpg") + QChar(0) + ".jpg"), "Failed to save to JPG -1");
+    EXPECT_EQ(failure(path("old.jpg") + QChar(0) + ".jpg"), "Failed to save to JPG -2");
     EXPECT_EQ(bytesOf(path("old.jpg")), "old");
     EXPECT_EQ(files(), QStringList({"old.jpg"}));
 }
