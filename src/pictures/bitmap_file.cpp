@@ -1,6 +1,7 @@
 #include "pictures/bitmap_file.h"
 
 #include <QBuffer>
+#include <QPainter>
 
 #include "base/errors.h"
 #include "base/text_file.h"
@@ -8,6 +9,17 @@
 
 namespace pictures {
 namespace {
+
+// What shows through a picture is white, as on paper.
+QImage opaque(const QImage& picture) {
+    if (!picture.hasAlphaChannel()) {
+        return picture.convertToFormat(QImage::Format_RGB32);
+    }
+    QImage paper(picture.size(), QImage::Format_RGB32);
+    paper.fill(Qt::white);
+    QPainter(&paper).drawImage(QPoint(), picture);
+    return paper;
+}
 
 // In memory first: a writer of picture files doesn't tell of a full disk.
 QByteArray bitmapOf(const QImage& picture) {
@@ -17,7 +29,7 @@ QByteArray bitmapOf(const QImage& picture) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    picture.convertToFormat(QImage::Format_RGB32).save(&buffer, "BMP");
+    opaque(picture).save(&buffer, "BMP");
     return bytes;
 }
 

@@ -427,6 +427,20 @@ TEST_F(Archiving, SavingAsAJpegTellsTheNameAndGoesOnInTheDialog) {
     EXPECT_TRUE(shown("FrmCpr"));
 }
 
+TEST_F(Archiving, WhatShowsThroughAnIconIsWhiteInItsBitmap) {
+    Form19& form = ready("b.bmp", 1);
+    QImage icon(16, 16, QImage::Format_ARGB32);
+    icon.fill(Qt::transparent);
+    icon.setPixelColor(3, 2, Qt::blue);
+    ASSERT_TRUE(icon.save(path("a.ico")));
+    world_.fileDialogs.chosen = path("a.ico");
+    press(form.OuvJpg);
+    press(form.EnregBmp);
+    const QImage back = loadPicture(path("b.bmp"));
+    EXPECT_EQ(back.pixelColor(0, 0), QColor(Qt::white));
+    EXPECT_EQ(back.pixelColor(3, 2), QColor(Qt::blue));
+}
+
 TEST_F(Archiving, ABitmapThatCantBeWrittenIsReportedAndNotOffered) {
     Form19& form = ready("nowhere/b.bmp", 2);
     press(form.Command5);
