@@ -119,11 +119,22 @@ void PictureView::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+void PictureView::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    if (waiting()) {
+        settleClick();
+    }
+}
+
 void PictureView::timerEvent(QTimerEvent* event) {
     if (event->timerId() == pending_.timerId()) {
-        pending_.stop();
-        tell(slots_.click);
+        settleClick();
     }
+}
+
+void PictureView::settleClick() {
+    pending_.stop();
+    tell(slots_.click);
 }
 
 }  // namespace qt

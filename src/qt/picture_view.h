@@ -11,7 +11,7 @@ namespace qt {
 /// Shows a picture in its place, in its own shape. Space stands for a click, Enter for a double click.
 ///
 /// Where both a click and a double click mean something, a click is told only once it is sure that no second one
-/// follows: a double click isn't a click.
+/// follows: a double click isn't a click. Whoever goes on to another field clicks no second time.
 class PictureView final : public QWidget {
 public:
     struct Slots {
@@ -44,9 +44,11 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
 
 private:
+    void settleClick();
     QRect pictureRect() const;
     const QPixmap& scaled(QSize size);
 

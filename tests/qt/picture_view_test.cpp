@@ -81,6 +81,16 @@ TEST_F(PictureViewTest, ADoubleClickIsNoClick) {
     EXPECT_EQ(form_->told, QStringList({"double"}));
 }
 
+TEST_F(PictureViewTest, AClickCountsAtOnceWhereTheNextOneIsElsewhere) {
+    both_->setFocus();
+    QTest::mouseClick(both_, Qt::LeftButton);
+    one_->setFocus(Qt::MouseFocusReason);
+    EXPECT_FALSE(both_->waiting());
+    EXPECT_EQ(form_->told, QStringList({"click"}));
+    pause();
+    EXPECT_EQ(form_->told, QStringList({"click"}));
+}
+
 TEST_F(PictureViewTest, AClickWithoutADoubleClickCountsAtOnce) {
     QTest::mouseClick(one_, Qt::LeftButton);
     EXPECT_EQ(form_->told, QStringList({"click"}));
