@@ -1,71 +1,54 @@
 #include "base/errors.h"
 
+#include <QStringView>
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace base {
+namespace {
+
+struct NumberedText {
+    ErrorNumber number;
+    QStringView text;
+};
+constexpr auto kTexts = std::to_array<NumberedText>({
+    {ErrorNumber::InvalidCall, u"Valeur ou appel incorrect."},
+    {ErrorNumber::Overflow, u"Dépassement de capacité : le nombre est trop grand."},
+    {ErrorNumber::DivisionByZero, u"Division par zéro."},
+    {ErrorNumber::TypeMismatch, u"Cette valeur n'est pas du type attendu."},
+    {ErrorNumber::FileNotFound, u"Fichier introuvable."},
+    {ErrorNumber::DeviceError, u"Erreur d'entrée ou de sortie sur le disque."},
+    {ErrorNumber::DiskFull, u"Le disque est plein."},
+    {ErrorNumber::PermissionDenied, u"Accès refusé."},
+    {ErrorNumber::PathNotFound, u"Dossier introuvable."},
+    {ErrorNumber::ObjectNotSet, u"Aucune base ou aucune sélection n'est ouverte."},
+    {ErrorNumber::InvalidNull, u"Ce champ ne contient aucune valeur."},
+    {ErrorNumber::InvalidPicture, u"Ce fichier n'est pas une image reconnue, ou il est endommagé."},
+    {ErrorNumber::UpdateWithoutEdit, u"Enregistrement demandé sans ajout ni modification en cours."},
+    {ErrorNumber::NoCurrentRecord, u"Aucun enregistrement en cours."},
+    {ErrorNumber::DuplicateKey, u"Cet enregistrement existe déjà : il ne peut pas être enregistré deux fois."},
+    {ErrorNumber::DatabaseNotFound, u"Base de données introuvable."},
+    {ErrorNumber::ReadOnly, u"La base de données est en lecture seule."},
+    {ErrorNumber::DatabaseNotOpenable, u"La base de données ne peut pas être ouverte."},
+    {ErrorNumber::QuerySyntax, u"Erreur de syntaxe dans la requête."},
+    {ErrorNumber::UnknownTable, u"Table introuvable dans la base de données."},
+    {ErrorNumber::UnknownParameter, u"Nom inconnu dans la requête."},
+    {ErrorNumber::RecordDeleted, u"Cet enregistrement a été supprimé."},
+    {ErrorNumber::RecordLocked, u"La base de données est occupée par un autre poste."},
+    {ErrorNumber::UnknownField, u"Champ introuvable."},
+    {ErrorNumber::RequiredValue, u"Ce champ doit contenir une valeur."},
+    {ErrorNumber::EmptyText, u"Ce champ n'accepte pas un texte vide."},
+    {ErrorNumber::UnknownFormat, u"Ce fichier n'est pas une base de données reconnue, ou il est endommagé."},
+    {ErrorNumber::ObjectClosed, u"Cette base de données a été fermée."},
+    {ErrorNumber::JpegSave, u"L'image JPEG n'a pas pu être enregistrée."},
+});
+
+}  // namespace
 
 QString errorText(ErrorNumber number) {
-    switch (number) {
-        case ErrorNumber::InvalidCall:
-            return QStringLiteral("Valeur ou appel incorrect.");
-        case ErrorNumber::Overflow:
-            return QStringLiteral("Dépassement de capacité : le nombre est trop grand.");
-        case ErrorNumber::DivisionByZero:
-            return QStringLiteral("Division par zéro.");
-        case ErrorNumber::TypeMismatch:
-            return QStringLiteral("Cette valeur n'est pas du type attendu.");
-        case ErrorNumber::FileNotFound:
-            return QStringLiteral("Fichier introuvable.");
-        case ErrorNumber::DeviceError:
-            return QStringLiteral("Erreur d'entrée ou de sortie sur le disque.");
-        case ErrorNumber::DiskFull:
-            return QStringLiteral("Le disque est plein.");
-        case ErrorNumber::PermissionDenied:
-            return QStringLiteral("Accès refusé.");
-        case ErrorNumber::PathNotFound:
-            return QStringLiteral("Dossier introuvable.");
-        case ErrorNumber::ObjectNotSet:
-            return QStringLiteral("Aucune base ou aucune sélection n'est ouverte.");
-        case ErrorNumber::InvalidNull:
-            return QStringLiteral("Ce champ ne contient aucune valeur.");
-        case ErrorNumber::InvalidPicture:
-            return QStringLiteral("Ce fichier n'est pas une image reconnue, ou il est endommagé.");
-        case ErrorNumber::UpdateWithoutEdit:
-            return QStringLiteral("Enregistrement demandé sans ajout ni modification en cours.");
-        case ErrorNumber::NoCurrentRecord:
-            return QStringLiteral("Aucun enregistrement en cours.");
-        case ErrorNumber::DuplicateKey:
-            return QStringLiteral("Cet enregistrement existe déjà : il ne peut pas être enregistré deux fois.");
-        case ErrorNumber::DatabaseNotFound:
-            return QStringLiteral("Base de données introuvable.");
-        case ErrorNumber::ReadOnly:
-            return QStringLiteral("La base de données est en lecture seule.");
-        case ErrorNumber::DatabaseNotOpenable:
-            return QStringLiteral("La base de données ne peut pas être ouverte.");
-        case ErrorNumber::QuerySyntax:
-            return QStringLiteral("Erreur de syntaxe dans la requête.");
-        case ErrorNumber::UnknownTable:
-            return QStringLiteral("Table introuvable dans la base de données.");
-        case ErrorNumber::UnknownParameter:
-            return QStringLiteral("Nom inconnu dans la requête.");
-        case ErrorNumber::RecordDeleted:
-            return QStringLiteral("Cet enregistrement a été supprimé.");
-        case ErrorNumber::RecordLocked:
-            return QStringLiteral("La base de données est occupée par un autre poste.");
-        case ErrorNumber::UnknownField:
-            return QStringLiteral("Champ introuvable.");
-        case ErrorNumber::RequiredValue:
-            return QStringLiteral("Ce champ doit contenir une valeur.");
-        case ErrorNumber::EmptyText:
-            return QStringLiteral("Ce champ n'accepte pas un texte vide.");
-        case ErrorNumber::UnknownFormat:
-            return QStringLiteral("Ce fichier n'est pas une base de données reconnue, ou il est endommagé.");
-        case ErrorNumber::ObjectClosed:
-            return QStringLiteral("Cette base de données a été fermée.");
-        case ErrorNumber::JpegSave:
-            return QStringLiteral("L'image JPEG n'a pas pu être enregistrée.");
-    }
-    return QStringLiteral("Erreur inattendue.");
+    const auto row = std::ranges::find(kTexts, number, &NumberedText::number);
+    return row == kTexts.end() ? QStringLiteral("Erreur inattendue.") : row->text.toString();
 }
 
 QString errorText(ErrorNumber number, const QString& subject) {

@@ -10,34 +10,17 @@ using base::RuntimeError;
 
 namespace {
 
-constexpr std::array kAll{ErrorNumber::InvalidCall,
-                          ErrorNumber::Overflow,
-                          ErrorNumber::DivisionByZero,
-                          ErrorNumber::TypeMismatch,
-                          ErrorNumber::FileNotFound,
-                          ErrorNumber::DeviceError,
-                          ErrorNumber::DiskFull,
-                          ErrorNumber::PermissionDenied,
-                          ErrorNumber::PathNotFound,
-                          ErrorNumber::ObjectNotSet,
-                          ErrorNumber::InvalidNull,
-                          ErrorNumber::UpdateWithoutEdit,
-                          ErrorNumber::NoCurrentRecord,
-                          ErrorNumber::DuplicateKey,
-                          ErrorNumber::DatabaseNotFound,
-                          ErrorNumber::ReadOnly,
-                          ErrorNumber::DatabaseNotOpenable,
-                          ErrorNumber::QuerySyntax,
-                          ErrorNumber::UnknownTable,
-                          ErrorNumber::UnknownParameter,
-                          ErrorNumber::RecordDeleted,
-                          ErrorNumber::RecordLocked,
-                          ErrorNumber::UnknownField,
-                          ErrorNumber::RequiredValue,
-                          ErrorNumber::EmptyText,
-                          ErrorNumber::UnknownFormat,
-                          ErrorNumber::ObjectClosed,
-                          ErrorNumber::JpegSave};
+constexpr std::array kAll{
+    ErrorNumber::InvalidCall,       ErrorNumber::Overflow,         ErrorNumber::DivisionByZero,
+    ErrorNumber::TypeMismatch,      ErrorNumber::FileNotFound,     ErrorNumber::DeviceError,
+    ErrorNumber::DiskFull,          ErrorNumber::PermissionDenied, ErrorNumber::PathNotFound,
+    ErrorNumber::ObjectNotSet,      ErrorNumber::InvalidNull,      ErrorNumber::InvalidPicture,
+    ErrorNumber::UpdateWithoutEdit, ErrorNumber::NoCurrentRecord,  ErrorNumber::DuplicateKey,
+    ErrorNumber::DatabaseNotFound,  ErrorNumber::ReadOnly,         ErrorNumber::DatabaseNotOpenable,
+    ErrorNumber::QuerySyntax,       ErrorNumber::UnknownTable,     ErrorNumber::UnknownParameter,
+    ErrorNumber::RecordDeleted,     ErrorNumber::RecordLocked,     ErrorNumber::UnknownField,
+    ErrorNumber::RequiredValue,     ErrorNumber::EmptyText,        ErrorNumber::UnknownFormat,
+    ErrorNumber::ObjectClosed,      ErrorNumber::JpegSave};
 
 TEST(ErrorText, IsASentenceOfItsOwnForEveryNumber) {
     std::set<QString> texts;

@@ -427,23 +427,9 @@ TEST_F(WritingWindow, AnAnswerOfNoLeavesTheWindowWithItsEntries) {
     EXPECT_EQ(form.sheet.Txt1Ter(15).text(), "1");
 }
 
-TEST_F(WritingWindow, SavesEachFieldAsText) {
-    store(14, "ORIVANNE");
-    store(15, "01/02/2001");
-    Form5& form = newExam();
-    for (int i = 0; i <= 42; ++i) {
-        form.sheet.Txt1Ter(i).setText(QStringLiteral("t%1").arg(i));
-    }
-    form.sheet.Txt1Ter(15).setText("1");
-    form.TxtCa1.setText("c1");
-    form.TxtCa2.setText("c2");
-    form.TxtCa3.setText("c3");
-    form.sheet.LblAgeGesta.setText("12,3");
-    save(form);
-    EXPECT_EQ(world_.boxes.said, QStringList({"Enregistré"}));
-    EXPECT_EQ(form.pointer(), forms::Pointer::Normal);
-    // Copied by hand from the sheet of the practice, not from the program's own rows.
-    const std::vector<std::pair<const char*, const char*>> expected{{"MACHINE", "ORIVANNE"},
+// What the record holds when each field of the window holds its index: copied by hand from the sheet of the practice,
+// not from the program's own rows.
+const std::vector<std::pair<const char*, const char*>> kSavedFields{{"MACHINE", "ORIVANNE"},
                                                                     {"DATECIRC", "01/02/2001"},
                                                                     {"Numero", "2"},
                                                                     {"TYPECHO", "1"},
@@ -496,7 +482,23 @@ TEST_F(WritingWindow, SavesEachFieldAsText) {
                                                                     {"OSNEZ3", "t41"},
                                                                     {"MORPHO3", "t42"},
                                                                     {"CA3", "c3"}};
-    for (const auto& [field, text] : expected) {
+
+TEST_F(WritingWindow, SavesEachFieldAsText) {
+    store(14, "ORIVANNE");
+    store(15, "01/02/2001");
+    Form5& form = newExam();
+    for (int i = 0; i <= 42; ++i) {
+        form.sheet.Txt1Ter(i).setText(QStringLiteral("t%1").arg(i));
+    }
+    form.sheet.Txt1Ter(15).setText("1");
+    form.TxtCa1.setText("c1");
+    form.TxtCa2.setText("c2");
+    form.TxtCa3.setText("c3");
+    form.sheet.LblAgeGesta.setText("12,3");
+    save(form);
+    EXPECT_EQ(world_.boxes.said, QStringList({"Enregistré"}));
+    EXPECT_EQ(form.pointer(), forms::Pointer::Normal);
+    for (const auto& [field, text] : kSavedFields) {
         EXPECT_EQ(stored(2, field), QStringList({text})) << field;
     }
 }

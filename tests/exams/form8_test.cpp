@@ -648,19 +648,9 @@ TEST_F(LaterWritingWindow, ADateThatCannotBeReadIsSavedAsTyped) {
     EXPECT_EQ(stored(2, "AGESTA"), QStringList({""}));
 }
 
-TEST_F(LaterWritingWindow, SavesEachFieldAsText) {
-    store(14, "ORIVANNE");
-    store(15, "01/02/2001");
-    Form8& form = newLater();
-    for (int i = 0; i <= 66; ++i) {
-        form.sheet.Txt2T(i).setText(QStringLiteral("t%1").arg(i));
-    }
-    form.LblAgeGesta.setText("22,3");
-    form.sheet.txtDatexam.setText("hier");
-    save(form);
-    EXPECT_EQ(world_.boxes.said, QStringList({"Enregistré"}));
-    // Copied by hand from the sheet of the practice, not from the program's own rows.
-    const std::vector<std::pair<const char*, const char*>> expected{{"NUMERO", "2"},
+// What the record holds when each field of the window holds its index: copied by hand from the sheet of the practice,
+// not from the program's own rows.
+const std::vector<std::pair<const char*, const char*>> kSavedFields{{"NUMERO", "2"},
                                                                     {"NUMECHO", "1"},
                                                                     {"AGESTA", "22,3"},
                                                                     {"TYPECHO", "0"},
@@ -735,7 +725,19 @@ TEST_F(LaterWritingWindow, SavesEachFieldAsText) {
                                                                     {"MORPHO3", "t64"},
                                                                     {"ARTO3", "t65"},
                                                                     {"ARTC3", "t66"}};
-    for (const auto& [field, text] : expected) {
+
+TEST_F(LaterWritingWindow, SavesEachFieldAsText) {
+    store(14, "ORIVANNE");
+    store(15, "01/02/2001");
+    Form8& form = newLater();
+    for (int i = 0; i <= 66; ++i) {
+        form.sheet.Txt2T(i).setText(QStringLiteral("t%1").arg(i));
+    }
+    form.LblAgeGesta.setText("22,3");
+    form.sheet.txtDatexam.setText("hier");
+    save(form);
+    EXPECT_EQ(world_.boxes.said, QStringList({"Enregistré"}));
+    for (const auto& [field, text] : kSavedFields) {
         EXPECT_EQ(stored(2, field), QStringList({text})) << field;
     }
 }
