@@ -23,34 +23,75 @@ constexpr int kFewExams = 3000;
 constexpr int kManyExams = large_practice::kExams;
 constexpr double kFrame = 16;  // milliseconds
 
-QString base(int exams) {
-    return large_practice::exams(exams, kOfADossier);
-}
-
-/// A family of obstetric exams: its windows, the button of a new exam, which exams of a dossier are of its kind, its
-/// fields, and the two of them with the long lists: the indication and the uterus.
+/// A family of exams: its base and table, its windows, the button of a new exam and the list of dates in the dossier
+/// window, the number in the viewing window, and which exams of a dossier are of its kind.
 struct Family {
-    forms::Button dossier::Form4::*newExam;
+    QString (*base)(int exams, int ofADossier);
+    const char* table;
     const char16_t* writing;
     const char16_t* viewing;
+    forms::Button dossier::Form4::*newExam;
+    forms::ListBox dossier::Form4::*dates;
+    const char16_t* shownNumber;
     int first;
     int last;
-    const char16_t* fields;
-    std::array<int, 2> longLists;
+    /// The fields, and the two of them with the long lists: the indication and the uterus.
+    const char16_t* fields = nullptr;
+    std::array<int, 2> longLists{};
 };
 
-constexpr Family kFirstTrimester{&dossier::Form4::Cmd1Ter, u"Form5", u"Form6", 1, kOfADossier / 2, u"Txt1Ter", {7, 8}};
+using dossier::Form4;
 
-constexpr Family kLaterTrimesters{
-    &dossier::Form4::Cmd2Ter, u"Form8", u"Form10", kOfADossier / 2 + 1, kOfADossier, u"Txt2T", {7, 8}};
+constexpr Family kFirstTrimester{.base = large_practice::exams,
+                                 .table = "\"1TER\"",
+                                 .writing = u"Form5",
+                                 .viewing = u"Form6",
+                                 .newExam = &Form4::Cmd1Ter,
+                                 .dates = &Form4::List1,
+                                 .shownNumber = u"LblNumEcho",
+                                 .first = 1,
+                                 .last = kOfADossier / 2,
+                                 .fields = u"Txt1Ter",
+                                 .longLists = {7, 8}};
 
-Workstation& stationOf(const benchmark::State& state) {
-    static std::map<qint64, std::unique_ptr<Workstation>> all;
-    std::unique_ptr<Workstation>& station = all[state.range(0)];
+constexpr Family kLaterTrimesters{.base = large_practice::exams,
+                                  .table = "\"1TER\"",
+                                  .writing = u"Form8",
+                                  .viewing = u"Form10",
+                                  .newExam = &Form4::Cmd2Ter,
+                                  .dates = &Form4::List1,
+                                  .shownNumber = u"LblNumEcho",
+                                  .first = kOfADossier / 2 + 1,
+                                  .last = kOfADossier,
+                                  .fields = u"Txt2T",
+                                  .longLists = {7, 8}};
+
+constexpr Family kGynaecology{.base = large_practice::gynaecologyExams,
+                              .table = "GYNECO",
+                              .writing = u"Form16",
+                              .viewing = u"Form18",
+                              .newExam = &Form4::CmdGyneco,
+                              .dates = &Form4::List2,
+                              .shownNumber = u"TxtNumEcho",
+                              .first = 1,
+                              .last = kOfADossier};
+
+QString baseOf(const Family& family, const benchmark::State& state) {
+    return family.base(static_cast<int>(state.range(0)), kOfADossier);
+}
+
+Workstation& stationOf(const Family& family, const benchmark::State& state) {
+    static std::map<QString, std::unique_ptr<Workstation>> all;
+    const QString base = baseOf(family, state);
+    std::unique_ptr<Workstation>& station = all[base];
     if (!station) {
-        station = std::make_unique<Workstation>(large_practice::patients(), base(static_cast<int>(state.range(0))));
+        station = std::make_unique<Workstation>(large_practice::patients(), base);
     }
     return *station;
+}
+
+QByteArray select(const Family& family, const char* condition) {
+    return QByteArray("SELECT*FROM ") + family.table + " WHERE NUMERO=?" + condition + " ORDER BY NUMECHO DESC LIMIT 1";
 }
 
 /// The same dossiers and exams for the program and for the bare statements.
@@ -80,7 +121,7 @@ void require(benchmark::State& state, bool right) {
 
 template <const Family& family>
 void newExamOurs(benchmark::State& state) {
-    Workstation& station = stationOf(state);
+    Workstation& station = stationOf(family, state);
     Draw draw(state);
     for (auto _ : state) {
         station.openDossier(draw.dossier());
@@ -90,10 +131,11 @@ void newExamOurs(benchmark::State& state) {
 }
 
 /// What the opening of an exam reads: the device, its date, the dossier's last number, the practitioners.
+template <const Family& family>
 void newExamBare(benchmark::State& state) {
-    const yardstick::Connection bare(base(static_cast<int>(state.range(0))));
+    const yardstick::Connection bare(baseOf(family, state));
     yardstick::Statement stored(bare, "SELECT*FROM OPTIONS WHERE NUMEROS=?");
-    yardstick::Statement last(bare, "SELECT*FROM \"1TER\" WHERE NUMERO=? ORDER BY NUMECHO DESC LIMIT 1");
+    yardstick::Statement last(bare, select(family, "").constData());
     yardstick::Statement offered(bare, "SELECT*FROM OPTIONS WHERE NUMEROS=? ORDER BY \"INDEX\"");
     const auto read = [](yardstick::Statement& statement, qint64 value) {
         statement.bind(1, value);
@@ -113,9 +155,9 @@ void newExamBare(benchmark::State& state) {
 /// A double click on a date in the dossier's list of exams.
 template <const Family& family>
 void displayOurs(benchmark::State& state) {
-    Workstation& station = stationOf(state);
+    Workstation& station = stationOf(family, state);
     Draw draw(state);
-    forms::ListBox& list = station.dossierWindow().List1;
+    forms::ListBox& list = station.dossierWindow().*family.dates;
     int number = 0;
     for (auto _ : state) {
         station.openDossier(draw.dossier());
@@ -124,13 +166,13 @@ void displayOurs(benchmark::State& state) {
         list.setRow(0);
         station.desk().act([&list] { list.doubleClick(); });
     }
-    require(state, station.isQuiet() && textOf(station, family.viewing, u"LblNumEcho") == QString::number(number));
+    require(state, station.isQuiet() && textOf(station, family.viewing, family.shownNumber) == QString::number(number));
 }
 
 template <const Family& family>
 void displayBare(benchmark::State& state) {
-    const yardstick::Connection bare(base(static_cast<int>(state.range(0))));
-    yardstick::Statement found(bare, "SELECT*FROM \"1TER\" WHERE NUMERO=? AND DATEXAM=? ORDER BY NUMECHO DESC LIMIT 1");
+    const yardstick::Connection bare(baseOf(family, state));
+    yardstick::Statement found(bare, select(family, " AND DATEXAM=?").constData());
     Draw draw(state);
     for (auto _ : state) {
         found.bind(1, draw.dossier());
@@ -160,7 +202,7 @@ private:
 /// From the focus on one of two fields with long lists until the real list is drawn.
 template <const Family& family>
 void focusOnManyPhrases(benchmark::State& state) {
-    Workstation station(large_practice::patients(), base(kManyExams));
+    Workstation station(large_practice::patients(), family.base(kManyExams, kOfADossier));
     station.openDossier(1);
     const qt::WindowStage stage(station.desk(), [] {});
     station.press(station.dossierWindow().*family.newExam);
@@ -192,11 +234,13 @@ int main(int count, char** arguments) {
     QApplication application(count, arguments);
     qt::theme::apply(application);
     const std::vector<int> sizes{kFewExams, kManyExams};
-    side_by_side::pair("new exam, 1st trim.", newExamOurs<kFirstTrimester>, newExamBare, 3, sizes);
-    side_by_side::pair("new exam, later trim.", newExamOurs<kLaterTrimesters>, newExamBare, 3, sizes);
+    side_by_side::pair("new exam, 1st trim.", newExamOurs<kFirstTrimester>, newExamBare<kFirstTrimester>, 3, sizes);
+    side_by_side::pair("new exam, later trim.", newExamOurs<kLaterTrimesters>, newExamBare<kLaterTrimesters>, 3, sizes);
+    side_by_side::pair("new exam, gynaecology", newExamOurs<kGynaecology>, newExamBare<kGynaecology>, 3, sizes);
     side_by_side::pair("exam shown, 1st trim.", displayOurs<kFirstTrimester>, displayBare<kFirstTrimester>, 3, sizes);
     side_by_side::pair("exam shown, later trim.", displayOurs<kLaterTrimesters>, displayBare<kLaterTrimesters>, 3,
                        sizes);
+    side_by_side::pair("exam shown, gynaecology", displayOurs<kGynaecology>, displayBare<kGynaecology>, 3, sizes);
     side_by_side::within("500 phrases, 1st trim.", focusOnManyPhrases<kFirstTrimester>, kFrame);
     side_by_side::within("500 phrases, later trim.", focusOnManyPhrases<kLaterTrimesters>, kFrame);
     return side_by_side::run(count, arguments);

@@ -1,7 +1,6 @@
 #include "qt/help_file.h"
 
 #include <QHelpEngine>
-#include <QHelpFilterEngine>
 #include <QHelpLink>
 #include <QRegularExpression>
 
@@ -39,18 +38,6 @@ QList<QUrl> HelpFile::chapters() const {
 QUrl HelpFile::chapterOf(const QString& window) const {
     const QList<QHelpLink> links = engine_->documentsForIdentifier(window, QString());
     return links.isEmpty() ? QUrl() : links.first().url;
-}
-
-QStringList HelpFile::keywords() const {
-    return engine_->filterEngine()->indices(QString());
-}
-
-QList<QUrl> HelpFile::pagesOf(const QString& keyword) const {
-    QList<QUrl> pages;
-    for (const QHelpLink& link : engine_->documentsForKeyword(keyword, QString())) {
-        pages << link.url;
-    }
-    return pages;
 }
 
 }  // namespace qt

@@ -27,10 +27,6 @@ public:
     QList<QUrl> chapters() const;
     /// The chapter about a window of the program, by its name; empty if there is none.
     QUrl chapterOf(const QString& window) const;
-    /// The words of the index, in its order.
-    QStringList keywords() const;
-    /// Where a word of the index leads.
-    QList<QUrl> pagesOf(const QString& keyword) const;
 
     /// For the tree of contents and the list of the index that the engine makes. They fill a moment later.
     QHelpEngine& engine() const { return *engine_; }
