@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QImage>
-#include <memory>
 #include <vector>
 
 #include "biometry/form13.h"

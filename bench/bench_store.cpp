@@ -5,8 +5,6 @@
 #include <unistd.h>
 
 #include <QFile>
-#include <QTemporaryDir>
-#include <cstdlib>
 #include <map>
 #include <memory>
 #include <random>

@@ -1,6 +1,5 @@
 // What a person types into a field: dates, numbers, patterns, names.
 
-#include <cmath>
 
 #include "base/dates.h"
 #include "base/errors.h"

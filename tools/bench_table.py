@@ -10,7 +10,6 @@ the clock's, if the benchmark says so), `MB_at_most` and `percent_at_most` of it
 """
 
 import json
-import os
 import pathlib
 import re
 import subprocess

@@ -1,8 +1,7 @@
 #include "exams/exam_life.h"
 
-#include "pictures/form19.h"
-
 #include "base/numbers.h"
+#include "pictures/form19.h"
 
 namespace exams {
 
@@ -75,21 +74,17 @@ bool ExamLife::confirmDeletion(const QString& secondQuestion) const {
 
 void ExamLife::showWith(const QString& window, const QList<std::pair<QString, QString>>& texts) const {
     desk().show(window);
-    const forms::Form* shown = desk().peek(window);
-    if (!shown) {
-        return;
-    }
+    const forms::Form& shown = desk().at(window);
     for (const auto& [control, text] : texts) {
-        static_cast<forms::TextControl*>(shown->find(control))->setText(text);
+        static_cast<forms::TextControl*>(shown.find(control))->setText(text);
     }
 }
 
 void ExamLife::showCapture(const QString& examNumber) const {
     desk().show(pictures::Form19::kName.toString());
-    if (auto* window = desk().peek<pictures::Form19>()) {
-        window->takeIdentity();
-        window->TxtNumEcho.setText(examNumber);
-    }
+    auto& window = desk().at<pictures::Form19>();
+    window.takeIdentity();
+    window.TxtNumEcho.setText(examNumber);
 }
 
 void ExamLife::returnToDossier() const {

@@ -47,10 +47,6 @@ void Desk::show(const QString& name) {
     if (ended_) {
         return;
     }
-    if (unknown_ && !factories_.contains(key(name))) {
-        unknown_(name);
-        return;
-    }
     Form& form = at(name);
     const Place* place = placeOf(key(name));
     // A load may have unloaded its own window, and a closing window does not come back.

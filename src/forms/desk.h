@@ -41,9 +41,6 @@ public:
     /// Who shows a person what ended a handler.
     void setErrorReport(std::function<void(const base::RuntimeError&)> report) { report_ = std::move(report); }
 
-    /// What showing a window of an unknown name does; without it that fails as any mention of it.
-    void setUnknown(std::function<void(const QString&)> unknown) { unknown_ = std::move(unknown); }
-
     /// A mention: the window of this name, made and loaded if need be. While it is being unloaded, that same instance.
     /// Throws ObjectNotSet for an unknown name, and what the window's load throws.
     Form& at(const QString& name);
@@ -100,7 +97,6 @@ private:
     std::vector<std::unique_ptr<Form>> retired_;
     Stage* stage_ = nullptr;
     std::function<void(const base::RuntimeError&)> report_;
-    std::function<void(const QString&)> unknown_;
     int depth_ = 0;
     bool ended_ = false;
 };

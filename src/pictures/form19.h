@@ -2,8 +2,6 @@
 
 #include <QImage>
 #include <cstdint>
-#include <memory>
-#include <optional>
 #include <vector>
 
 #include "forms/controls.h"

@@ -3,7 +3,6 @@
 #include <turbojpeg.h>
 
 #include <memory>
-#include <type_traits>
 
 namespace pictures {
 namespace {

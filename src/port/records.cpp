@@ -1,6 +1,5 @@
 #include "port/records.h"
 
-#include <QDir>
 
 #include "base/dates.h"
 #include "base/errors.h"

@@ -2,7 +2,6 @@
 
 #include <QRegion>
 #include <QWidget>
-#include <functional>
 #include <vector>
 
 #include "biometry/chart_painter.h"

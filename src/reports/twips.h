@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QPaintDevice>
 #include <cstdint>
 
 class QTextDocument;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QStringList>
 
 #include "reports/operations.h"
 

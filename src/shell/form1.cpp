@@ -9,12 +9,12 @@ Form1::Form1(ports::Surroundings& around, store::State& state)
     : Form(around.desk, kName.toString(), QStringLiteral("VERANOX 3.11")), around_(around), state_(state) {
     Command1.onClick = [this] { onCommand1Click(); };
     Command2.onClick = [this] { onCommand2Click(); };
-    Command5.onClick = [this] { open(QStringLiteral("Form19")); };
-    Command6.onClick = [this] { open(QStringLiteral("Form20")); };
-    CmdSauve.onClick = [this] { open(QStringLiteral("Form21")); };
-    CmdSupervi.onClick = [this] { open(QStringLiteral("Form22")); };
+    Command5.onClick = [this] { desk().show(QStringLiteral("Form19")); };
+    Command6.onClick = [this] { desk().show(QStringLiteral("Form20")); };
+    CmdSauve.onClick = [this] { desk().show(QStringLiteral("Form21")); };
+    CmdSupervi.onClick = [this] { desk().show(QStringLiteral("Form22")); };
     CmdAide.onClick = [this] { around_.help.showContents(around_.manual()); };
-    Command4.onClick = [this] { open(QStringLiteral("Form14")); };
+    Command4.onClick = [this] { desk().show(QStringLiteral("Form14")); };
     Command3.onClick = [this] { desk().end(); };
 }
 
@@ -44,7 +44,7 @@ void Form1::onCommand1Click() {
 void Form1::onCommand2Click() {
     state_.PathEcho = dossier::echoPath(around_);
     if (passes(state_.PathEcho, QStringLiteral("ECHO.mdb"), QStringLiteral("Echo.mdb"))) {
-        open(QStringLiteral("Form9"));
+        desk().show(QStringLiteral("Form9"));
     }
 }
 
@@ -60,10 +60,6 @@ bool Form1::passes(const QString& path, const QString& ending, const QString& sh
     }
     around_.boxes.message(dossier::missingBaseMessage(shownName));
     return false;
-}
-
-void Form1::open(const QString& form) {
-    desk().show(form);
 }
 
 }  // namespace shell

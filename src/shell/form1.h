@@ -32,7 +32,6 @@ private:
     void onCommand2Click();
     bool pathsPass() const;
     bool passes(const QString& path, const QString& ending, const QString& shownName) const;
-    void open(const QString& form);
 
     ports::Surroundings& around_;
     store::State& state_;

@@ -42,25 +42,25 @@ void Program::addWindows() {
     desk_.add(QStringLiteral("Form3"), [this] { return std::make_unique<dossier::Form3>(around_, state_); });
     desk_.add(QStringLiteral("Form4"), [this] { return std::make_unique<dossier::Form4>(around_, state_, *this); });
     desk_.add(QStringLiteral("Form5"), [this] { return std::make_unique<exams::Form5>(obstetric_); });
-    desk_.add(QStringLiteral("Form7"), [this] { return std::make_unique<exams::Form7>(obstetric_); });
     desk_.add(QStringLiteral("Form6"), [this] { return std::make_unique<exams::Form6>(obstetric_); });
-    desk_.add(QStringLiteral("Form9"), [this] { return std::make_unique<responses::Form9>(around_, state_); });
+    desk_.add(QStringLiteral("Form7"), [this] { return std::make_unique<exams::Form7>(obstetric_); });
     desk_.add(QStringLiteral("Form8"), [this] { return std::make_unique<exams::Form8>(obstetric_); });
-    desk_.add(QStringLiteral("Form11"), [this] { return std::make_unique<exams::Form11>(obstetric_); });
+    desk_.add(QStringLiteral("Form9"), [this] { return std::make_unique<responses::Form9>(around_, state_); });
     desk_.add(QStringLiteral("Form10"), [this] { return std::make_unique<exams::Form10>(obstetric_); });
+    desk_.add(QStringLiteral("Form11"), [this] { return std::make_unique<exams::Form11>(obstetric_); });
     desk_.add(QStringLiteral("Form12"),
               [this] { return std::make_unique<biometry::Form12>(around_, state_, laterExam_); });
     desk_.add(QStringLiteral("Form13"), [this] { return std::make_unique<biometry::Form13>(desk_); });
     desk_.add(QStringLiteral("Form14"), [this] { return std::make_unique<Form14>(desk_); });
     desk_.add(QStringLiteral("Form15"), [this] { return std::make_unique<Form15>(desk_); });
     desk_.add(QStringLiteral("Form16"), [this] { return std::make_unique<gyneco::Form16>(gynaecology_); });
-    desk_.add(QStringLiteral("Form18"), [this] { return std::make_unique<gyneco::Form18>(gynaecology_); });
     desk_.add(QStringLiteral("Form17"), [this] { return std::make_unique<gyneco::Form17>(gynaecology_); });
+    desk_.add(QStringLiteral("Form18"), [this] { return std::make_unique<gyneco::Form18>(gynaecology_); });
     desk_.add(QStringLiteral("Form19"), [this] { return std::make_unique<pictures::Form19>(around_); });
     desk_.add(QStringLiteral("Form20"), [this] { return std::make_unique<pictures::Form20>(around_); });
-    desk_.add(QStringLiteral("FrmCpr"), [this] { return std::make_unique<pictures::FrmCpr>(around_); });
     desk_.add(QStringLiteral("Form21"), [this] { return std::make_unique<Form21>(around_, state_); });
     desk_.add(QStringLiteral("Form22"), [this] { return std::make_unique<Form22>(around_, state_); });
+    desk_.add(QStringLiteral("FrmCpr"), [this] { return std::make_unique<pictures::FrmCpr>(around_); });
     desk_.add(QStringLiteral("RicheT"), [this] { return std::make_unique<reports::RicheT>(around_); });
 }
 

@@ -21,7 +21,6 @@ protected:
         addBare("Form1");
         desk().add("Form4", [this] { return std::make_unique<dossier::Form4>(world_.around, state_, *this); });
         desk().add("RicheT", [this] { return std::make_unique<reports::RicheT>(world_.around); });
-        desk().setUnknown([this](const QString& name) { unknown_ << name; });
     }
     ~PracticeWindows() override {
         for (const QString& text : world_.boxes.reportedTexts) {
@@ -90,7 +89,6 @@ protected:
     World world_;
     store::State state_;
     exams::ExamLife life_{world_.around, state_};
-    QStringList unknown_;
 
 private:
     class Bare final : public forms::Form {

@@ -74,13 +74,7 @@ TEST_F(DeskRules, PeekAsksForAWindowWithoutLoadingIt) {
 
 TEST_F(DeskRules, AnUnknownWindowIsAnError) {
     EXPECT_THROW(desk_.at("Z"), RuntimeError);
-}
-
-TEST_F(DeskRules, ShowingAnUnknownWindowAsksWhoIsThereForIt) {
-    QString asked;
-    desk_.setUnknown([&](const QString& name) { asked = name; });
-    desk_.show("Z");
-    EXPECT_EQ(asked, "Z");
+    EXPECT_THROW(desk_.show("Z"), RuntimeError);
 }
 
 TEST_F(DeskRules, HidingOrUnloadingWhatIsNotLoadedDoesNothing) {

@@ -392,11 +392,5 @@ TEST_F(GynaecologyWriting, TheAlbumGetsTheExamInView) {
     EXPECT_EQ(album.TxtRechNumEcho.text(), "4");
 }
 
-TEST_F(GynaecologyWriting, APictureWindowThatIsNotThereIsTold) {
-    press(newExam().CmdPhotos);
-    EXPECT_EQ(unknown_, QStringList({"Form19"}));
-    EXPECT_TRUE(world_.boxes.reported.isEmpty());
-}
-
 }  // namespace
 }  // namespace gyneco

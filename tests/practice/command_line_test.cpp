@@ -1,7 +1,6 @@
 #include <sqlite3.h>
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QProcess>
 

@@ -1,4 +1,3 @@
-#include <QSet>
 
 #include "practice/sample.h"
 

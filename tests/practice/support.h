@@ -4,7 +4,6 @@
 
 #include <QDate>
 #include <QMap>
-#include <QTemporaryDir>
 #include <optional>
 
 #include "base/errors.h"

@@ -1,6 +1,5 @@
 #include <sqlite3.h>
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
