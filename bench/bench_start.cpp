@@ -1,6 +1,5 @@
 // Opening the dossier window on a practice of many years beside opening it on a new one.
 
-
 #include "side_by_side.h"
 #include "workstation.h"
 

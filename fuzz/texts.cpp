@@ -1,6 +1,5 @@
 // What a person types into a field: dates, numbers, patterns, names.
 
-
 #include "base/dates.h"
 #include "base/errors.h"
 #include "base/numbers.h"

@@ -71,8 +71,8 @@ QFont fontOf(int size, bool bold = false) {
     return font;
 }
 
-QPen solid(const QColor& colour, double width) {
-    return QPen(colour, width, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
+QPen solid(const QColor& color, double width) {
+    return QPen(color, width, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
 }
 
 /// Lines along the axes, one device pixel wide: as rectangles they take a twentieth of the time.
@@ -85,13 +85,13 @@ public:
           thinX_(1 / painter.transform().m11()),
           thinY_(1 / painter.transform().m22()) {}
 
-    void across(int millimetres, const QColor& colour) {
+    void across(int millimetres, const QColor& color) {
         const double y = spot(chart_, 0, millimetres).y();
-        painter_.fillRect(QRectF(area_.left(), y - thinY_ / 2, area_.width(), thinY_), colour);
+        painter_.fillRect(QRectF(area_.left(), y - thinY_ / 2, area_.width(), thinY_), color);
     }
-    void upright(int week, const QColor& colour) {
+    void upright(int week, const QColor& color) {
         const double x = spot(chart_, week, 0).x();
-        painter_.fillRect(QRectF(x - thinX_ / 2, area_.top(), thinX_, area_.height()), colour);
+        painter_.fillRect(QRectF(x - thinX_ / 2, area_.top(), thinX_, area_.height()), color);
     }
 
 private:
@@ -106,15 +106,15 @@ private:
 void drawGrid(QPainter& painter, Chart chart, const Ink& ink) {
     Grid grid(painter, chart);
     for (const bool strong : {false, true}) {
-        const QColor& colour = strong ? ink.grid : ink.fineGrid;
+        const QColor& color = strong ? ink.grid : ink.fineGrid;
         for (int mm = 0; mm <= geometry(chart).valueSpan; mm += fineStep(chart)) {
             if ((mm % numberedStep(chart) == 0) == strong) {
-                grid.across(mm, colour);
+                grid.across(mm, color);
             }
         }
         for (int week = firstGridWeek(chart); week <= styleOf(chart).lastWeek; ++week) {
             if ((week % 5 == 0) == strong) {
-                grid.upright(week, colour);
+                grid.upright(week, color);
             }
         }
     }
@@ -327,19 +327,19 @@ void paintChart(QPainter& painter, Chart chart, const Ink& ink) {
     painter.restore();
 }
 
-void paintMarker(QPainter& painter, Point at, QColor colour, QColor edge) {
+void paintMarker(QPainter& painter, Point at, QColor color, QColor edge) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(solid(edge, 8));
-    painter.setBrush(colour);
+    painter.setBrush(color);
     painter.drawEllipse(QRectF(at.left, at.top, kMarkerSide, kMarkerSide));
     painter.restore();
 }
 
-void paintCross(QPainter& painter, Point at, QColor colour) {
+void paintCross(QPainter& painter, Point at, QColor color) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(solid(colour, 34));
+    painter.setPen(solid(color, 34));
     const double middle = kCrossSide / 2.0;
     painter.drawLine(QLineF(at.left + middle, at.top, at.left + middle, at.top + kCrossSide));
     painter.drawLine(QLineF(at.left, at.top + middle, at.left + kCrossSide, at.top + middle));

@@ -42,8 +42,8 @@ QRectF drawing(Chart chart);
 void paintChart(QPainter& painter, Chart chart, const Ink& ink);
 
 /// Draws a marker as a disc, and the cross, by their top left corner.
-void paintMarker(QPainter& painter, Point at, QColor colour, QColor edge);
-void paintCross(QPainter& painter, Point at, QColor colour);
+void paintMarker(QPainter& painter, Point at, QColor color, QColor edge);
+void paintCross(QPainter& painter, Point at, QColor color);
 
 /// A place on a percentile curve.
 struct OnCurve {

@@ -12,10 +12,10 @@
 namespace biometry {
 namespace {
 
-constexpr forms::Color kPresentColour = 0xE00000;
+constexpr forms::Color kPresentColor = 0xE00000;
 /// The points of the recalled exams, a colour for each chart.
-constexpr std::array<forms::Color, 3> kRecalledColours{0x1F6FD0, 0x1E8A3C, 0xB05FC0};
-constexpr forms::Color kMultipleColour = forms::fromBlueGreenRed(0xFFFFC0);
+constexpr std::array<forms::Color, 3> kRecalledColors{0x1F6FD0, 0x1E8A3C, 0xB05FC0};
+constexpr forms::Color kMultipleColor = forms::fromBlueGreenRed(0xFFFFC0);
 
 /// The fields of the recall's columns: of the whole exam, then of the measures of the first, second and third fetus.
 constexpr std::array<const char16_t*, 3> kExamFields{u"DATEXAM", u"NUMECHO", u"AGESTA"};
@@ -71,11 +71,11 @@ Form12::Form12(ports::Surroundings& around, store::State& state, const ExamInVie
                {Chart::PageFem, ShPtFem, PtFem, ListFem}}} {
     hold();
     for (std::size_t i = 0; i < points_.size(); ++i) {
-        points_[i].present.setColor(kPresentColour);
+        points_[i].present.setColor(kPresentColor);
         points_[i].present.setSide(kMarkerSide);
         points_[i].present.hide();
         for (int k = 0; k < static_cast<int>(kRecalledMarkers); ++k) {
-            points_[i].recalled(k).setColor(kRecalledColours[i]);
+            points_[i].recalled(k).setColor(kRecalledColors[i]);
             points_[i].recalled(k).setSide(kMarkerSide);
             points_[i].recalled(k).hide();
         }
@@ -171,7 +171,7 @@ void Form12::fillPage() {
     LblDatExam.setText(page_.examDate);
     LblFoetus.setText(page_.fetusLine);
     if (page_.fetus > 0) {
-        Frame2.setBack(kMultipleColour);
+        Frame2.setBack(kMultipleColor);
     }
     for (const Row& row : rows_) {
         row.onPage.setText(page_.measure(row.measure));
@@ -236,10 +236,10 @@ void Form12::movePresentPoint(Measure measure) {
 }
 
 void Form12::relabel(const Row& row) {
-    const PercentileLabel before{row.label.text(), row.label.color().value_or(kCalmColour),
+    const PercentileLabel before{row.label.text(), row.label.color().value_or(kCalmColor),
                                  row.label.points().value_or(kCalmSize)};
     const PercentileLabel now = classify(row.measure, SAF3.text(), row.field.text(), before);
-    row.label.setColor(now.colour);
+    row.label.setColor(now.color);
     row.label.setPoints(now.size);
     row.label.setText(now.text);
 }

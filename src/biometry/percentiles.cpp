@@ -105,7 +105,7 @@ PercentileLabel classify(Measure measure, QStringView week, QStringView value, P
         return orbitLabel(week, std::move(label));
     }
     const int millimetres = base::toInt16(base::leadingNumber(value));
-    label.colour = kCalmColour;
+    label.color = kCalmColor;
     label.size = kCalmSize;
     if (week.isEmpty()) {
         return label;
@@ -120,7 +120,7 @@ PercentileLabel classify(Measure measure, QStringView week, QStringView value, P
         label.text.clear();
     }
     if (isAlarm(measure, label.text)) {
-        label.colour = kAlarmColour;
+        label.color = kAlarmColor;
         label.size = kAlarmSize;
     }
     return label;

@@ -8,8 +8,8 @@
 namespace biometry {
 
 /// The colours of a percentile label, 0xRRGGBB.
-inline constexpr std::uint32_t kCalmColour = 0x0000FF;
-inline constexpr std::uint32_t kAlarmColour = 0xFF0000;
+inline constexpr std::uint32_t kCalmColor = 0x0000FF;
+inline constexpr std::uint32_t kAlarmColor = 0xFF0000;
 
 /// The font sizes of a percentile label, in points.
 inline constexpr int kCalmSize = 8;
@@ -18,7 +18,7 @@ inline constexpr int kAlarmSize = 10;
 /// The label beside a measure.
 struct PercentileLabel {
     QString text;
-    std::uint32_t colour = kCalmColour;
+    std::uint32_t color = kCalmColor;
     int size = kCalmSize;
 
     bool operator==(const PercentileLabel&) const = default;

@@ -93,7 +93,7 @@ void drawCharts(QPainter& painter, const std::vector<PlacedPoint>& points) {
         paintChart(painter, chart, paperInk());
     }
     for (const PlacedPoint& point : points) {
-        paintMarker(painter, point.at, QColor::fromRgb(point.colour), Qt::black);
+        paintMarker(painter, point.at, QColor::fromRgb(point.color), Qt::black);
     }
 }
 

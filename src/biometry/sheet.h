@@ -31,7 +31,7 @@ struct Retried {
 /// A point on the page, by its top left corner in twips.
 struct PlacedPoint {
     Point at;
-    forms::Color colour;
+    forms::Color color;
 };
 
 /// The date, number, age and the three measures of a recalled exam.

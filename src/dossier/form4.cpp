@@ -53,7 +53,9 @@ Form4::Form4(ports::Surroundings& around, store::State& state, ExamDoors& exams)
 void Form4::wireSearch() {
     for (forms::TextBox* box : {&Text1, &Text2}) {
         box->onKey = capitalsWithoutApostrophe;
-        box->onKeyDown = [this](forms::Key key) { key == forms::Key::Left ? stepBack() : stepOn(); };
+        box->onKeyDown = [this](forms::Key key) {
+            step(key == forms::Key::Left ? &Recordset::stepBack : &Recordset::stepOn);
+        };
     }
     Text1.onFocus = [this] { Text2.setText({}); };
     Text1.onChange = [this] { onText1Change(); };
@@ -65,11 +67,11 @@ void Form4::wireBrowsing() {
     Command2.onClick = [this] { showEnd(&Recordset::moveLast); };
     Command3.onClick = [this] {
         history_.reset();
-        stepBack();
+        step(&Recordset::stepBack);
     };
     Command4.onClick = [this] {
         history_.reset();
-        stepOn();
+        step(&Recordset::stepOn);
     };
 }
 
@@ -222,24 +224,13 @@ void Form4::showEnd(void (Recordset::*move)()) {
     AFFICHE_FICHE();
 }
 
-void Form4::step(void (Recordset::*move)(), bool (Recordset::*fellOff)() const, void (Recordset::*back)()) {
+void Form4::step(void (Recordset::*move)()) {
     Recordset& rs = state_.Rs;
     if (rs.bof() && rs.eof()) {
         return;
     }
     (rs.*move)();
-    if ((rs.*fellOff)()) {
-        (rs.*back)();
-    }
     AFFICHE_FICHE();
-}
-
-void Form4::stepBack() {
-    step(&Recordset::movePrevious, &Recordset::bof, &Recordset::moveFirst);
-}
-
-void Form4::stepOn() {
-    step(&Recordset::moveNext, &Recordset::eof, &Recordset::moveLast);
 }
 
 bool Form4::requireDossier() {

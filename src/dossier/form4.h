@@ -105,10 +105,7 @@ private:
     void onText2Change();
     void enableBrowsing();
     void showEnd(void (store::Recordset::*move)());
-    void step(void (store::Recordset::*move)(), bool (store::Recordset::*fellOff)() const,
-              void (store::Recordset::*back)());
-    void stepBack();
-    void stepOn();
+    void step(void (store::Recordset::*move)());
 
     bool dossierOpen() const { return !NomLbl.text().isEmpty(); }
     bool requireDossier();

@@ -91,22 +91,18 @@ void ObstetricExams::showFinal() {
     showEnd(&Recordset::moveLast);
 }
 
-void ObstetricExams::step(void (Recordset::*move)(), bool (Recordset::*fellOff)() const, void (Recordset::*back)()) {
+void ObstetricExams::step(void (Recordset::*move)()) {
     closeBiometry();
-    Recordset& exams = life_.state().Rs;
-    (exams.*move)();
-    if ((exams.*fellOff)()) {
-        (exams.*back)();
-    }
+    (life_.state().Rs.*move)();
     display();
 }
 
 void ObstetricExams::showPrevious() {
-    step(&Recordset::movePrevious, &Recordset::bof, &Recordset::moveFirst);
+    step(&Recordset::stepBack);
 }
 
 void ObstetricExams::showNext() {
-    step(&Recordset::moveNext, &Recordset::eof, &Recordset::moveLast);
+    step(&Recordset::stepOn);
 }
 
 void ObstetricExams::setStepping(bool possible) {

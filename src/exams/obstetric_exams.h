@@ -60,8 +60,7 @@ public:
     bool deleteInView(const QString& number);
 
 private:
-    void step(void (store::Recordset::*move)(), bool (store::Recordset::*fellOff)() const,
-              void (store::Recordset::*back)());
+    void step(void (store::Recordset::*move)());
     void showEnd(void (store::Recordset::*move)());
     void closeBiometry();
 

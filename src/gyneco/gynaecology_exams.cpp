@@ -52,22 +52,18 @@ void GynaecologyExams::showFinal() {
     showEnd(&Recordset::moveLast);
 }
 
-void GynaecologyExams::step(void (Recordset::*move)(), bool (Recordset::*fellOff)() const, void (Recordset::*back)()) {
+void GynaecologyExams::step(void (Recordset::*move)()) {
     standOnExamInView();
-    Recordset& exams = life_.state().Rs;
-    (exams.*move)();
-    if ((exams.*fellOff)()) {
-        (exams.*back)();
-    }
+    (life_.state().Rs.*move)();
     display();
 }
 
 void GynaecologyExams::showPrevious() {
-    step(&Recordset::movePrevious, &Recordset::bof, &Recordset::moveFirst);
+    step(&Recordset::stepBack);
 }
 
 void GynaecologyExams::showNext() {
-    step(&Recordset::moveNext, &Recordset::eof, &Recordset::moveLast);
+    step(&Recordset::stepOn);
 }
 
 bool GynaecologyExams::deleteInView() {

@@ -38,8 +38,7 @@ public:
 private:
     void reopenDossier();
     void showEnd(void (store::Recordset::*move)());
-    void step(void (store::Recordset::*move)(), bool (store::Recordset::*fellOff)() const,
-              void (store::Recordset::*back)());
+    void step(void (store::Recordset::*move)());
 
     exams::ExamLife& life_;
 };

@@ -1,6 +1,5 @@
 #include "port/records.h"
 
-
 #include "base/dates.h"
 #include "base/errors.h"
 #include "store/blank_rule.h"

@@ -1,6 +1,5 @@
 #include "practice/sample_texts.h"
 
-
 #include "base/numbers.h"
 
 namespace practice {

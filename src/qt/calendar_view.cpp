@@ -33,9 +33,9 @@ void CalendarView::dressLeaf(const char* name, const QString& arrow, const QStri
     button->setText(arrow);
     button->setAccessibleName(caption);
     button->setToolTip(caption);
-    QPalette colours = button->palette();
-    colours.setColor(QPalette::ButtonText, palette().color(QPalette::HighlightedText));
-    button->setPalette(colours);
+    QPalette colors = button->palette();
+    colors.setColor(QPalette::ButtonText, palette().color(QPalette::HighlightedText));
+    button->setPalette(colors);
 }
 
 QTableView* CalendarView::table() const {

@@ -26,9 +26,9 @@ constexpr qreal kTextPoints = 10;
 constexpr int kPixmapCache = 2048;
 
 // As the contrast of texts is reckoned for readers with weak sight.
-double luminance(const QColor& colour) {
+double luminance(const QColor& color) {
     const auto linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
 double contrast(const QColor& one, const QColor& other) {
@@ -178,10 +178,10 @@ private:
 
 }  // namespace
 
-QColor mixed(const QColor& colour, const QColor& other, double part) {
+QColor mixed(const QColor& color, const QColor& other, double part) {
     const auto mix = [part](double from, double to) { return static_cast<float>(from + (to - from) * part); };
-    return QColor::fromRgbF(mix(colour.redF(), other.redF()), mix(colour.greenF(), other.greenF()),
-                            mix(colour.blueF(), other.blueF()));
+    return QColor::fromRgbF(mix(color.redF(), other.redF()), mix(color.greenF(), other.greenF()),
+                            mix(color.blueF(), other.blueF()));
 }
 
 void apply(QApplication& application) {

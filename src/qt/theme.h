@@ -19,7 +19,7 @@ void apply(QApplication& application);
 bool isDark();
 
 /// A colour with a part (0 to 1) of another in it.
-QColor mixed(const QColor& colour, const QColor& other, double part);
+QColor mixed(const QColor& color, const QColor& other, double part);
 
 /// A colour of text that stands out from what is behind it: the same, made lighter or darker as far as need be.
 QColor readable(QColor text, const QColor& behind);

@@ -1,6 +1,5 @@
 #pragma once
 
-
 #include "reports/operations.h"
 
 namespace reports {

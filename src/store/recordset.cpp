@@ -48,6 +48,20 @@ void Recordset::movePrevious() {
     cursor().move(Direction::Backward);
 }
 
+void Recordset::stepOn() {
+    moveNext();
+    if (eof()) {
+        moveLast();
+    }
+}
+
+void Recordset::stepBack() {
+    movePrevious();
+    if (bof()) {
+        moveFirst();
+    }
+}
+
 void Recordset::findFirst(const QString& criterion) {
     cursor().find(Direction::Forward, criterion);
 }

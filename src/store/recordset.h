@@ -42,6 +42,10 @@ public:
     void moveNext();
     void movePrevious();
 
+    // The same for a person who steps through the rows: at the ends they stay on the last and the first one.
+    void stepOn();
+    void stepBack();
+
     /// The first (last) row in cursor order that satisfies the criterion. A find that matches nothing sets the no-match
     /// flag and leaves the cursor on its row. Throws QuerySyntax, UnknownParameter.
     void findFirst(const QString& criterion);

@@ -711,9 +711,9 @@ TEST_F(Recall, HasPointsOf105TwipsThePresentOnesRed) {
     const Form12& form = open();
     for (const forms::Marker* present : {&form.ShPtBip, &form.ShPtCa, &form.ShPtFem}) {
         EXPECT_EQ(present->side(), 105);
-        const forms::Color colour = present->color().value();
-        EXPECT_GT(colour >> 16, 0xC0U);
-        EXPECT_LT(colour & 0xFFFF, 0x4000U);
+        const forms::Color color = present->color().value();
+        EXPECT_GT(color >> 16, 0xC0U);
+        EXPECT_LT(color & 0xFFFF, 0x4000U);
     }
     for (const forms::Array<forms::Marker>* family : {&form.PtBip, &form.PtCa, &form.PtFem}) {
         EXPECT_EQ(family->first(), 0);

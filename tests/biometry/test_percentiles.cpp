@@ -20,7 +20,7 @@ const QString kMedian = QStringLiteral("50 ème Percentile");
 const QString kBefore = QStringLiteral("celui d'avant");
 
 void PrintLabel(const PercentileLabel& label, std::ostream& out) {
-    out << label.text.toStdString() << " 0x" << std::hex << label.colour << std::dec << " " << label.size;
+    out << label.text.toStdString() << " 0x" << std::hex << label.color << std::dec << " " << label.size;
 }
 
 std::string seen(const PercentileLabel& label) {

@@ -7,14 +7,14 @@ namespace {
 
 using Lines = QStringList;
 
-const QColor kColours[] = {Qt::red, Qt::green, Qt::blue, Qt::cyan, Qt::magenta, Qt::yellow, Qt::gray};
+const QColor kColors[] = {Qt::red, Qt::green, Qt::blue, Qt::cyan, Qt::magenta, Qt::yellow, Qt::gray};
 
 class AlbumPrinting : public AlbumWindow {
 protected:
     // Puts so many pictures on the sheet, each of a colour of its own.
     void putOnSheet(int count) {
         for (int i = 0; i < count; ++i) {
-            form().LblPath.setText(put(QStringLiteral("p%1.bmp").arg(i), kColours[i]));
+            form().LblPath.setText(put(QStringLiteral("p%1.bmp").arg(i), kColors[i]));
             click(form().CmdImpr);
         }
     }
@@ -37,15 +37,15 @@ protected:
         return seen.join(u' ');
     }
     static std::ptrdiff_t numberOf(const QImage& picture) {
-        return std::ranges::find(kColours, picture.pixelColor(0, 0)) - kColours;
+        return std::ranges::find(kColors, picture.pixelColor(0, 0)) - kColors;
     }
     // Where a colour lies on the paper, in millimetres.
-    QRect onPaper(const QColor& colour) {
+    QRect onPaper(const QColor& color) {
         QRect found;
         for (int y = 0; y < printers_.paper.height(); ++y) {
             const auto* row = reinterpret_cast<const QRgb*>(printers_.paper.constScanLine(y));
             for (int x = 0; x < printers_.paper.width(); ++x) {
-                if (row[x] == colour.rgb()) {
+                if (row[x] == color.rgb()) {
                     found |= QRect(x, y, 1, 1);
                 }
             }
@@ -60,7 +60,7 @@ protected:
         click(form().CmdImp);
         std::vector<QRect> places;
         for (int i = 0; i < count; ++i) {
-            places.push_back(onPaper(kColours[i]));
+            places.push_back(onPaper(kColors[i]));
         }
         return places;
     }
@@ -236,7 +236,7 @@ TEST_F(AlbumPrinting, LaysThePicturesOverTheText) {
     EXPECT_GE(inkBetween(0, 30), 0);
     QImage first = printers_.paper.copy(5 * scale, 30 * scale, 95 * scale, 70 * scale);
     QImage red = first;
-    red.fill(kColours[0]);
+    red.fill(kColors[0]);
     EXPECT_EQ(first, red);
 }
 

@@ -103,9 +103,9 @@ protected:
     }
     QString path(const QString& name) const { return world_.folder.filePath(name); }
     /// A bitmap file of one colour.
-    QString put(const QString& name, QColor colour = Qt::blue, QSize size = {40, 30}) const {
+    QString put(const QString& name, QColor color = Qt::blue, QSize size = {40, 30}) const {
         QImage picture(size, QImage::Format_RGB32);
-        picture.fill(colour);
+        picture.fill(color);
         EXPECT_TRUE(picture.save(path(name), "BMP"));
         return path(name);
     }

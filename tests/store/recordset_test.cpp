@@ -38,6 +38,8 @@ TEST(EmptyTable, GivesBothEndsAtOnceAndFailsOnMoves) {
     expectError(ErrorNumber::NoCurrentRecord, [&] { rows.moveLast(); });
     expectError(ErrorNumber::NoCurrentRecord, [&] { rows.moveNext(); });
     expectError(ErrorNumber::NoCurrentRecord, [&] { rows.movePrevious(); });
+    expectError(ErrorNumber::NoCurrentRecord, [&] { rows.stepOn(); });
+    expectError(ErrorNumber::NoCurrentRecord, [&] { rows.stepBack(); });
     expectError(ErrorNumber::NoCurrentRecord, [&] { rows.field(u"NOM"_qs); });
     expectError(ErrorNumber::NoCurrentRecord, [&] { rows.edit(); });
     expectError(ErrorNumber::NoCurrentRecord, [&] { rows.remove(); });
@@ -83,6 +85,18 @@ TEST_F(ThreePatients, RaiseTheEndFlagBehindTheLastAndTheBeginningFlagBeforeTheFi
     expectError(ErrorNumber::NoCurrentRecord, [&] { rows.movePrevious(); });
     rows.moveNext();
     EXPECT_EQ(rows.text(u"NUMINT"_qs), u"2"_qs);
+}
+
+TEST_F(ThreePatients, AreSteppedThroughWithoutLeavingThem) {
+    Recordset rows = nom.openRecordset(kByNumber);
+    QStringList seen;
+    for (auto step : {&Recordset::stepBack, &Recordset::stepOn, &Recordset::stepOn, &Recordset::stepOn,
+                      &Recordset::stepOn, &Recordset::stepBack}) {
+        (rows.*step)();
+        EXPECT_FALSE(rows.bof() || rows.eof());
+        seen << rows.text(u"NUMINT"_qs);
+    }
+    EXPECT_EQ(seen.join(u' '), u"1 2 3 3 3 2"_qs);
 }
 
 TEST_F(ThreePatients, AreFoundFromBothEnds) {
