@@ -50,6 +50,25 @@ class Port:
     def items(self, control):
         return self.request("get", control=control)["items"]
 
+    def responses(self, rows):
+        """Stores responses by their rubric, their text and the letter of what closes them."""
+        for rubric, text, closing in rows:
+            self.insert(table="OPTIONS", row={"NUMEROS": rubric, "Texte": text, "TERMINAIS": closing})
+
+    def open_dossier(self, surname="dup"):
+        """Starts the program and opens the dossier window on a patient."""
+        self.start()
+        self.click("Form1.Command1")
+        self.type("Form4.Text1", text=surname)
+
+    def report(self):
+        """What stands in the report editor."""
+        return self.text("RicheT.RichTextBox1")
+
+    def titles(self):
+        """The titles of the windows by their names."""
+        return {form["name"]: form["title"] for form in self.request("forms")["forms"]}
+
     def said(self):
         """The texts of the boxes that came up during the last request."""
         return [box["text"] for box in self.boxes]

@@ -41,9 +41,7 @@ def view(port, *exams):
     port.insert(table="FICHEPATIENT", row={"Numint": 2, "Nom": "DUPONT", "Prenom": "Marie", "CIVILITEE": "Madame"})
     for exam in exams:
         port.insert(table="1TER", row=exam)
-    port.start()
-    port.click("Form1.Command1")
-    port.type("Form4.Text1", text="dup")
+    port.open_dossier()
     port.click("Form4.HlbCptDer")
 
 

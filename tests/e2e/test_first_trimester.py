@@ -20,11 +20,8 @@ def dossier(practice):
     """The dossier window on DUPONT Marie, number 2."""
     practice.insert(table="FICHEPATIENT", row={"Numint": 2, "Nom": "DUPONT", "Prenom": "Marie"})
     practice.insert(table="FICHEPATIENT", row={"Numint": 3, "Nom": "MARTIN", "Prenom": "Anne"})
-    for rubric, text, ending in PHRASES:
-        practice.insert(table="OPTIONS", row={"NUMEROS": rubric, "Texte": text, "TERMINAIS": ending})
-    practice.start()
-    practice.click("Form1.Command1")
-    practice.type("Form4.Text1", text="dup")
+    practice.responses(PHRASES)
+    practice.open_dossier()
     return practice
 
 

@@ -23,11 +23,8 @@ def dossier(practice):
     practice.insert(
         table="FICHEPATIENT", row={"Numint": 2, "Nom": "DUPONT", "Prenom": "Marie", "CIVILITEE": "Madame"}
     )
-    for rubric, text, ending in PHRASES:
-        practice.insert(table="OPTIONS", row={"NUMEROS": rubric, "Texte": text, "TERMINAIS": ending})
-    practice.start()
-    practice.click("Form1.Command1")
-    practice.type("Form4.Text1", text="dup")
+    practice.responses(PHRASES)
+    practice.open_dossier()
     return practice
 
 
@@ -54,14 +51,6 @@ def exams(port):
 def save(port):
     port.answer(**{"with": ["yes"]})
     port.click("Form16.CmdEnregis")
-
-
-def report(port):
-    return port.text("RicheT.RichTextBox1")
-
-
-def titles(port):
-    return {form["name"]: form["title"] for form in port.forms()["forms"]}
 
 
 def test_a_pelvic_exam_from_its_first_field_to_the_record(dossier):
@@ -227,20 +216,20 @@ def test_each_page_offers_its_report(viewing):
     assert port.get("Form18.CmdCptGyn")["onscreen"] and not port.get("Form18.CmdCptStim")["onscreen"]
     port.click("Form18.CmdCptGyn")
     assert {"Form18", "RicheT"} <= port.shown()
-    assert titles(port)["RicheT"] == "Impression Echo Pelvienne"
-    assert report(port).startswith("CABINET DES TILLEULS\r\n")
-    assert "ECHOGRAPHIE PELVIENNE\r\n" in report(port)
-    assert "\r\nMadame Marie DUPONT\r\n\r\nDate de l'examen : 12/03/2002\r\n\r\nEXAMEN\r\n" in report(port)
-    assert "MASSE PELVIENNE" not in report(port)
-    assert report(port).endswith("CONCLUSION\r\n          Trois\r\n\r\n le 12/03/2002")
+    assert port.titles()["RicheT"] == "Impression Echo Pelvienne"
+    assert port.report().startswith("CABINET DES TILLEULS\r\n")
+    assert "ECHOGRAPHIE PELVIENNE\r\n" in port.report()
+    assert "\r\nMadame Marie DUPONT\r\n\r\nDate de l'examen : 12/03/2002\r\n\r\nEXAMEN\r\n" in port.report()
+    assert "MASSE PELVIENNE" not in port.report()
+    assert port.report().endswith("CONCLUSION\r\n          Trois\r\n\r\n le 12/03/2002")
     port.click("RicheT.tbToolBar(Quitter)")
     port.click("Form18.Command2")
     assert port.get("Form18.CmdCptStim")["onscreen"] and not port.get("Form18.CmdCptGyn")["onscreen"]
     port.click("Form18.CmdCptStim")
-    assert titles(port)["RicheT"] == "Impression Monitorage Ovulation"
-    assert "MONITORAGE ECHOGRAPHIQUE DE L'OVULATION\r\n" in report(port)
-    assert "\r\nJour de la stimulation : J3.\r\n\r\n\r\n          OVAIRE DROIT :\r\n" in report(port)
-    assert "Indication" not in report(port)
+    assert port.titles()["RicheT"] == "Impression Monitorage Ovulation"
+    assert "MONITORAGE ECHOGRAPHIQUE DE L'OVULATION\r\n" in port.report()
+    assert "\r\nJour de la stimulation : J3.\r\n\r\n\r\n          OVAIRE DROIT :\r\n" in port.report()
+    assert "Indication" not in port.report()
     runs = port.format("RicheT.RichTextBox1")["runs"]
     assert (runs[0]["size"], runs[0]["bold"], runs[0]["align"]) == (14, True, 2)
     assert (runs[-1]["size"], runs[-1]["bold"], runs[-1]["align"]) == (12, False, 2)
@@ -248,12 +237,12 @@ def test_each_page_offers_its_report(viewing):
 
 def test_the_menu_offers_both_reports_on_either_page(viewing):
     viewing.click("Form18.Monito")
-    assert "MONITORAGE" in report(viewing)
+    assert "MONITORAGE" in viewing.report()
     viewing.click("Form18.EchoP")
     # The second one stands on top of the first, in one paragraph with its first line.
-    assert report(viewing).count("CABINET DES TILLEULS") == 2
-    assert " le 12/03/2002CABINET DES TILLEULS\r\n" in report(viewing)
-    assert report(viewing).index("PELVIENNE") < report(viewing).index("MONITORAGE")
+    assert viewing.report().count("CABINET DES TILLEULS") == 2
+    assert " le 12/03/2002CABINET DES TILLEULS\r\n" in viewing.report()
+    assert viewing.report().index("PELVIENNE") < viewing.report().index("MONITORAGE")
 
 
 def test_the_menu_turns_the_page_and_leaves_the_button(viewing):

@@ -14,9 +14,7 @@ def desk(practice):
         practice.insert(table="1TER", row={"Numero": number, "NUMECHO": 1, "DATEXAM": "10/01/2002", "TYPECHO": "1"})
         practice.insert(table="1TER", row={"Numero": number, "NUMECHO": 2, "DATEXAM": "12/03/2002", "TYPECHO": "2"})
         practice.insert(table="GYNECO", row={"Numero": number, "NUMECHO": 1, "DATEXAM": "04/05/2001"})
-    practice.start()
-    practice.click("Form1.Command1")
-    practice.type("Form4.Text1", text="lheri")
+    practice.open_dossier("lheri")
     assert practice.text("Form4.NumLbl") == "2"
     return practice
 

@@ -29,11 +29,8 @@ FIELDS = "AC Bip Cc DIO CERV Dat Ca Fem Pied TIBIA Hum OSNEZ".split()
 def dossier(practice):
     """The dossier window on DUPONT Marie, number 2."""
     practice.insert(table="FICHEPATIENT", row={"Numint": 2, "Nom": "DUPONT", "Prenom": "Marie"})
-    for rubric, text, ending in PHRASES:
-        practice.insert(table="OPTIONS", row={"NUMEROS": rubric, "Texte": text, "TERMINAIS": ending})
-    practice.start()
-    practice.click("Form1.Command1")
-    practice.type("Form4.Text1", text="dup")
+    practice.responses(PHRASES)
+    practice.open_dossier()
     return practice
 
 

@@ -40,24 +40,17 @@ def dossier(practice):
 def view(port, **fields):
     """Shows the one exam of the patient."""
     port.insert(table="1TER", row={**EXAM, **fields})
-    port.start()
-    port.click("Form1.Command1")
-    port.type("Form4.Text1", text="dup")
+    port.open_dossier()
     port.click("Form4.HlbCptDer")
     return port
-
-
-def report(port):
-    return port.text("RicheT.RichTextBox1")
 
 
 def test_the_report_of_a_lone_fetus_tells_what_was_measured(dossier):
     port = view(dossier)
     port.click("Form10.Command1")
     assert {"Form10", "RicheT"} <= port.shown()
-    titles = {form["name"]: form["title"] for form in port.forms()["forms"]}
-    assert titles["RicheT"] == "Impression Echo 2ème 3ème trimestre"
-    text = report(port)
+    assert port.titles()["RicheT"] == "Impression Echo 2ème 3ème trimestre"
+    text = port.report()
     assert text.startswith("CABINET DES TILLEULS\r\n")
     assert "Examen fait à la demande de la patiente.\r\n\r\n\r\n" + " " * 15 + "Madame Marie DUPONT\r\n\r\n" in text
     assert "Age gestationnel : 22,0 Sem. A.\r\n\r\nEXAMEN\r\n" in text
@@ -90,16 +83,16 @@ def test_the_menu_gives_the_minimum_report_without_introduction(dossier):
     port.click("Form10.CptrM")
     port.click("Form10.Intro")
     port.click("Form10.imprimer")
-    assert "Il n'a pas été mis en évidence d'anomalie" in report(port)
-    assert "Crâne et face" not in report(port)
-    assert "à la demande" not in report(port)
+    assert "Il n'a pas été mis en évidence d'anomalie" in port.report()
+    assert "Crâne et face" not in port.report()
+    assert "à la demande" not in port.report()
 
 
 def test_twins_keep_every_line_and_have_no_words(dossier):
     port = view(dossier, NBRE="2", Bip2="52", MORPHO2="Rachis vu.")
     port.click("Form10.CmdJ2")
     port.click("Form10.Command1")
-    text = report(port)
+    text = port.report()
     assert "JUMEAU N°2 :\r\n" in text and "JUMEAU N°3" not in text
     assert "BIOMETRIE J2\r\n               Bi-Pariétal : 52 mm\r\n               Distance inter orbitaire :  mm\r\n" in text
     assert "MORPHOLOGIE J2\r\n               Rachis vu.\r\n" in text
@@ -111,21 +104,21 @@ def test_an_unusual_count_says_nothing_of_the_fetuses(dossier, count):
     port = view(dossier, NBRE=count)
     port.click("Form10.Command1")
     assert port.boxes == []
-    assert "FOETUS\r\n          LIQUIDE AMNIOTIQUE\r\n" in report(port)
+    assert "FOETUS\r\n          LIQUIDE AMNIOTIQUE\r\n" in port.report()
 
 
 def test_an_empty_count_composes_twice_and_is_reported(dossier):
     port = view(dossier, NBRE="")
     port.click("Form10.Command1")
     assert [box["kind"] for box in port.boxes] == ["error"]
-    assert report(port).count("CABINET DES TILLEULS") == 2
+    assert port.report().count("CABINET DES TILLEULS") == 2
 
 
 def test_what_is_overtyped_in_the_window_is_what_the_report_tells(dossier):
     port = view(dossier)
     port.set("Form10.TxtPied(0)", text="38")
     port.click("Form10.Command1")
-    assert "Pied : 38 mm. (50 ème Percentile).\r\n" in report(port)
+    assert "Pied : 38 mm. (50 ème Percentile).\r\n" in port.report()
 
 
 def test_each_exam_has_the_words_of_its_own_week(dossier):
@@ -134,11 +127,11 @@ def test_each_exam_has_the_words_of_its_own_week(dossier):
     port = view(dossier)
     assert port.text("Form10.LblNumEcho") == "2"
     port.click("Form10.Command1")
-    assert "Bi-Pariétal : 54 mm. ().\r\n" in report(port)
+    assert "Bi-Pariétal : 54 mm. ().\r\n" in port.report()
     port.click("RicheT.tbToolBar(Quitter)")
     port.click("Form10.CmdRec")
     port.click("Form10.Command1")
-    assert "Bi-Pariétal : 54 mm. (50 ème Percentile).\r\n" in report(port)
+    assert "Bi-Pariétal : 54 mm. (50 ème Percentile).\r\n" in port.report()
 
 
 def test_a_corrected_report_is_printed(dossier, tmp_path):
@@ -160,6 +153,6 @@ def test_a_biometry_window_on_screen_stays_as_it_is(dossier):
     assert port.text("Form12.LblCBip") == "50 ème Percentile"
     port.set("Form10.TxtPied(0)", text="38")
     port.click("Form10.Command1")
-    assert "Pied : 38 mm. (50 ème Percentile).\r\n" in report(port)
+    assert "Pied : 38 mm. (50 ème Percentile).\r\n" in port.report()
     assert {"Form10", "Form12", "RicheT"} <= port.shown()
     assert port.text("Form12.LblCPied") == ""

@@ -36,9 +36,7 @@ def dossier(practice):
     practice.insert(table="OPTIONS", row={"NUMEROS": 19, "Texte": "Cabinet du Parc"})
     row = {"Numint": 2, "Nom": "DUPONT", "Prenom": "Marie", "Civilitee": "Mme"}
     practice.insert(table="FICHEPATIENT", row=row)
-    practice.start()
-    practice.click("Form1.Command1")
-    practice.type("Form4.Text1", text="DUPONT")
+    practice.open_dossier("DUPONT")
     return practice
 
 

@@ -26,11 +26,8 @@ def desk(practice):
             table="1TER",
             row={"Numero": 2, "NUMECHO": number, "DATEXAM": f"0{number}/02/2002", "TYPECHO": "1", "NBRE": embryos},
         )
-    practice.insert(table="OPTIONS", row={"NUMEROS": 1, "Texte": "Docteur VAUCLAIR", "TERMINAIS": "A"})
-    practice.insert(table="OPTIONS", row={"NUMEROS": 1, "Texte": "Docteur ÉLÉGANT", "TERMINAIS": "A"})
-    practice.start()
-    practice.click("Form1.Command1")
-    practice.type("Form4.Text1", text="dup")
+    practice.responses([(1, "Docteur VAUCLAIR", "A"), (1, "Docteur ÉLÉGANT", "A")])
+    practice.open_dossier()
     return practice
 
 

@@ -29,23 +29,16 @@ def view(practice):
     practice.insert(table="OPTIONS", row={"NUMEROS": 19, "Texte": "CABINET DES TILLEULS", "TERMINAIS": "A"})
     practice.insert(table="1TER", row=EXAM)
     (practice.folder / "intro").write_text('"Examen fait à la demande de la patiente."\r\n', encoding="utf-8")
-    practice.start()
-    practice.click("Form1.Command1")
-    practice.type("Form4.Text1", text="dup")
+    practice.open_dossier()
     practice.click("Form4.HlbCptDer")
     return practice
-
-
-def report(port):
-    return port.text("RicheT.RichTextBox1")
 
 
 def test_the_report_tells_the_exam_on_show(view):
     view.click("Form6.Command1")
     assert {"Form6", "RicheT"} <= view.shown()
-    titles = {form["name"]: form["title"] for form in view.forms()["forms"]}
-    assert titles["RicheT"] == "Impression Echo 1er Trimestre"
-    text = report(view)
+    assert view.titles()["RicheT"] == "Impression Echo 1er Trimestre"
+    text = view.report()
     assert text.startswith("CABINET DES TILLEULS\r\n")
     assert "Examen fait à la demande de la patiente.\r\n\r\n\r\n" in text
     assert " " * 15 + "Madame Marie DUPONT\r\n\r\n" in text
@@ -61,21 +54,21 @@ def test_the_marks_of_the_menu_choose_the_style(view):
     view.click("Form6.Intro")
     view.click("Form6.CptrM")
     view.click("Form6.Cptrendu")
-    assert "à la demande" not in report(view)
-    assert "Il n'a pas été mis en évidence d'anomalie" in report(view)
+    assert "à la demande" not in view.report()
+    assert "Il n'a pas été mis en évidence d'anomalie" in view.report()
 
 
 def test_the_dating_report_is_the_short_one(view):
     view.click("Form6.Datation")
-    assert "Age gestationnel présumé : A determiner.\r\n" in report(view)
-    assert "PELVIS" not in report(view)
+    assert "Age gestationnel présumé : A determiner.\r\n" in view.report()
+    assert "PELVIS" not in view.report()
 
 
 def test_a_second_request_goes_on_top(view):
     view.click("Form6.Command1")
-    first = report(view)
+    first = view.report()
     view.click("Form6.Command2")
-    text = report(view)
+    text = view.report()
     assert text.endswith(first)
     assert len(text) > len(first)
     assert text.count("CABINET DES TILLEULS") == 2
@@ -98,7 +91,7 @@ def test_quitting_the_editor_loses_the_text(view):
     view.click("RicheT.tbToolBar(Quitter)")
     assert "RicheT" not in view.shown()
     view.click("Form6.Command2")
-    assert report(view).count("CABINET DES TILLEULS") == 1
+    assert view.report().count("CABINET DES TILLEULS") == 1
 
 
 def test_a_count_that_is_none_composes_twice_and_is_reported(view):
@@ -106,7 +99,7 @@ def test_a_count_that_is_none_composes_twice_and_is_reported(view):
     view.click("Form6.CmdDer")
     view.click("Form6.Command1")
     assert [box["kind"] for box in view.boxes] == ["error"]
-    assert report(view).count("CABINET DES TILLEULS") == 2
+    assert view.report().count("CABINET DES TILLEULS") == 2
 
 
 def test_the_editor_stays_when_the_viewing_window_closes(view):
@@ -121,7 +114,7 @@ def test_without_a_printer_the_editor_works_and_prints_nothing(view):
     assert view.boxes == []
     view.click("RicheT.tbToolBar(Imprimer)")
     assert view.boxes == []
-    assert "DUPONT" in report(view)
+    assert "DUPONT" in view.report()
 
 
 BOX = "RicheT.RichTextBox1"
@@ -176,10 +169,10 @@ def test_cutting_copying_and_pasting(editor):
     editor.click(tool("Copier"))
     assert editor.clipboard()["text"] == "CABINET DES TILLEULS"
     editor.click(tool("Couper"))
-    assert report(editor).startswith("\r\n")
+    assert editor.report().startswith("\r\n")
     editor.clipboard(text="Cabinet de l'Œuvre")
     editor.click(tool("Coller"))
-    assert report(editor).startswith("Cabinet de l'Œuvre\r\n")
+    assert editor.report().startswith("Cabinet de l'Œuvre\r\n")
 
 
 def test_nothing_selected_leaves_the_clipboard_alone(editor):
@@ -188,7 +181,7 @@ def test_nothing_selected_leaves_the_clipboard_alone(editor):
     editor.click(tool("Copier"))
     editor.click(tool("Couper"))
     assert editor.clipboard()["text"] == "d'ailleurs"
-    assert report(editor).startswith("CABINET DES TILLEULS\r\n")
+    assert editor.report().startswith("CABINET DES TILLEULS\r\n")
 
 
 def test_the_font_dialog_sets_all_but_the_family(editor):
@@ -206,14 +199,14 @@ def test_the_font_dialog_sets_all_but_the_family(editor):
 
 
 def test_a_correction_is_undone_by_its_key(editor):
-    before = report(editor)
+    before = editor.report()
     editor.type(BOX, text=" Vu.")
-    assert report(editor).endswith(" Vu.")
+    assert editor.report().endswith(" Vu.")
     editor.key(BOX, key="Ctrl+Z")
-    assert report(editor) == before
+    assert editor.report() == before
     # The report itself is no correction.
     editor.key(BOX, key="Ctrl+Z")
-    assert report(editor) == before
+    assert editor.report() == before
 
 
 def printed_text(pdf):
