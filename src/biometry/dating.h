@@ -21,8 +21,8 @@ inline constexpr QStringView kCrownRumpTooLongMessage =
 /// `DG` from `DDR`: 14 days later. Leaves the field if `DDR` is no date.
 Outcome theoreticalStart(QStringView ddr, QDate today);
 
-/// `AGESTA` as weeks of amenorrhoea with the days (0 to 6) behind the comma: 12 weeks 3 days is "12,3". "" if the start
-/// is no date. A start after the exam gives a low or negative age.
+/// `AGESTA` as weeks of amenorrhoea, two more than since the start, with the days (0 to 6) behind the comma: 12 weeks
+/// 3 days is "12,3". "" if the start is no date. A start after the exam gives a low or negative age.
 Outcome ageText(QStringView start, QStringView examDate, QDate today);
 
 /// `AGESTA` as the correction window writes it: the number of `ageText` rounded to a whole one, ties to even. "" if
@@ -31,7 +31,7 @@ Outcome roundedAge(QStringView dgus, QStringView examDate, QDate today);
 
 /// `DGUS` from a crown-rump length in whole millimetres, counted back from today, whenever the exam was. Leaves the
 /// field if the text is "", refuses a length above 85 or beyond 16 bits. A length without a row counts 0 days. Fails
-/// with TypeMismatch if the text is no number.
+/// with TypeMismatch if the text is no number. Source: the practice's dating table, `biometry/tables/crown_rump.h`.
 Outcome startFromCrownRump(QStringView lcc, QDate today);
 
 /// `SAF3`, the whole week of amenorrhoea by which measures are looked up: 3 days round down, 4 up. Leaves the field

@@ -25,10 +25,9 @@ struct PercentileLabel {
 };
 
 /// The label after its measure has changed to `value`, from the label as it stands: where the reference says nothing
-/// the text stays. `week` is the text of `SAF3`, `value` that of the measure, in millimetres, of which the leading
-/// number counts, rounded to a whole one. Throws Overflow for a value beyond 16 bits and TypeMismatch for a week that
-/// is neither
-/// "" nor a number.
+/// the text stays. `week` is the text of `SAF3`, in weeks of amenorrhoea, `value` that of the measure, in millimetres,
+/// of which the leading number counts, rounded to a whole one. Throws Overflow for a value beyond 16 bits and
+/// TypeMismatch for a week that is neither "" nor a number. Source: the practice's tables, `biometry/tables/`.
 PercentileLabel classify(Measure measure, QStringView week, QStringView value, PercentileLabel present);
 
 /// Whether a change of this measure empties the two ratios, besides the estimated weight, which every measure empties.

@@ -15,10 +15,11 @@ inline constexpr QStringView kWeightNeedsMessage =
 inline constexpr QStringView kRatiosNeedMessage = u"Veuillez saisir une valeur pour Pied, Fémur, Orbites et Bip";
 
 /// The estimated fetal weight from the texts of the head circumference, the abdominal circumference and the femur, in
-/// millimetres, by their leading numbers: whole grams, ties to even, followed by " g". Refuses if one of them is "".
+/// millimetres, by their leading numbers: (cc² x 0.053 + ca² x 0.32) x fem / 1000 as whole grams, ties to even, followed
+/// by " g". Refuses if one of them is "". Source: the practice's formula, which names none.
 Outcome estimatedWeight(QStringView cc, QStringView ca, QStringView fem);
 
-/// The same formula on the median boxes, from week 16 to 41 inclusive; "" outside.
+/// The same formula on the median boxes, from week 16 to 41 of amenorrhoea inclusive; "" outside.
 QString theoreticalWeight(double week, const Medians& boxes);
 
 /// One ratio of two measures by their leading numbers, two decimals, thousands grouped; a tie goes up. Leaves the field

@@ -313,13 +313,9 @@ void choose(const Target& target, const QJsonObject& request) {
 
 }  // namespace hands
 
-QJsonObject look(const Target& target) {
-    const forms::Control& control = *target.control;
-    QJsonObject seen{{QStringLiteral("kind"), forms::kindName(control.kind())},
-                     {QStringLiteral("text"), control.text()},
-                     {QStringLiteral("visible"), control.visible()},
-                     {QStringLiteral("onscreen"), onScreen(target)},
-                     {QStringLiteral("enabled"), control.enabled()}};
+namespace {
+
+void lookAtOffers(const forms::Control& control, QJsonObject& seen) {
     if (const auto* list = dynamic_cast<const forms::ListBox*>(&control)) {
         seen[QStringLiteral("items")] = QJsonArray::fromStringList(list->items());
         seen[QStringLiteral("row")] = list->row();
@@ -332,6 +328,9 @@ QJsonObject look(const Target& target) {
     if (const auto* onOff = dynamic_cast<const forms::Switch*>(&control); onOff && (!tool || tool->toggles())) {
         seen[QStringLiteral("checked")] = onOff->checked();
     }
+}
+
+void lookAtText(const forms::Control& control, QJsonObject& seen) {
     if (const auto* text = dynamic_cast<const forms::TextControl*>(&control)) {
         tellColor(seen, QStringLiteral("color"), text->color());
         tellColor(seen, QStringLiteral("back"), text->back());
@@ -347,6 +346,9 @@ QJsonObject look(const Target& target) {
         seen[QStringLiteral("selection")] =
             QJsonObject{{QStringLiteral("start"), rich->SelStart()}, {QStringLiteral("length"), rich->SelLength()}};
     }
+}
+
+void lookAtDrawing(const forms::Control& control, const QWidget* widget, QJsonObject& seen) {
     if (const auto* bar = dynamic_cast<const forms::ScrollBar*>(&control)) {
         seen[QStringLiteral("value")] = bar->value();
         seen[QStringLiteral("min")] = bar->range().min;
@@ -358,8 +360,11 @@ QJsonObject look(const Target& target) {
         seen[QStringLiteral("height")] = marker->side();
     }
     if (const auto* image = dynamic_cast<const forms::Image*>(&control)) {
-        seen[QStringLiteral("picture")] = pictureOf(*image, target.widget);
+        seen[QStringLiteral("picture")] = pictureOf(*image, widget);
     }
+}
+
+void lookAtPlace(const forms::Control& control, QJsonObject& seen) {
     if (const auto spot = control.spot()) {
         seen[QStringLiteral("left")] = spot->left;
         seen[QStringLiteral("top")] = spot->top;
@@ -370,6 +375,21 @@ QJsonObject look(const Target& target) {
         seen[QStringLiteral("width")] = place->width;
         seen[QStringLiteral("height")] = place->height;
     }
+}
+
+}  // namespace
+
+QJsonObject look(const Target& target) {
+    const forms::Control& control = *target.control;
+    QJsonObject seen{{QStringLiteral("kind"), forms::kindName(control.kind())},
+                     {QStringLiteral("text"), control.text()},
+                     {QStringLiteral("visible"), control.visible()},
+                     {QStringLiteral("onscreen"), onScreen(target)},
+                     {QStringLiteral("enabled"), control.enabled()}};
+    lookAtOffers(control, seen);
+    lookAtText(control, seen);
+    lookAtDrawing(control, target.widget, seen);
+    lookAtPlace(control, seen);
     return seen;
 }
 

@@ -85,6 +85,11 @@ Server::Server(const QString& folder, QDate today)
     : folder_(QDir::cleanPath(QDir(folder).absolutePath())),
       clock_(today),
       settings_(folder_ + QStringLiteral("/user-settings.ini")) {
+    addActs();
+    addRequests();
+}
+
+void Server::addActs() {
     acts_ = {
         {QStringLiteral("focus"), [](const Target& t, const QJsonObject&) { hands::focus(t); }},
         {QStringLiteral("type"),
@@ -101,6 +106,29 @@ Server::Server(const QString& folder, QDate today)
         {QStringLiteral("choose"), hands::choose},
         {QStringLiteral("scroll"),
          [](const Target& t, const QJsonObject& r) { hands::scroll(t, r.value(u"value").toInt()); }},
+    };
+}
+
+void Server::addRequests() {
+    const auto own = [this](QJsonObject (Server::*answer)(const QJsonObject&)) {
+        return [this, answer](const QJsonObject& r) { return (this->*answer)(r); };
+    };
+    requests_ = {
+        {QStringLiteral("get"), [this](const QJsonObject& r) { return look(target(r)); }},
+        {QStringLiteral("format"), [this](const QJsonObject& r) { return format(target(r)); }},
+        {QStringLiteral("start"), [this](const QJsonObject&) { return start(); }},
+        {QStringLiteral("forms"), [this](const QJsonObject&) { return forms(); }},
+        {QStringLiteral("focused"), [this](const QJsonObject&) { return focused(); }},
+        {QStringLiteral("printer"), own(&Server::printer)},
+        {QStringLiteral("camera"), own(&Server::camera)},
+        {QStringLiteral("practice"), own(&Server::practice)},
+        {QStringLiteral("insert"), own(&Server::insert)},
+        {QStringLiteral("rows"), own(&Server::rows)},
+        {QStringLiteral("setting"), own(&Server::setting)},
+        {QStringLiteral("close"), own(&Server::close)},
+        {QStringLiteral("answer"), own(&Server::queueAnswers)},
+        {QStringLiteral("clipboard"), own(&Server::clipboard)},
+        {QStringLiteral("shot"), own(&Server::shot)},
     };
 }
 
@@ -126,64 +154,18 @@ QJsonObject Server::answer(const QJsonObject& request) {
 
 QJsonObject Server::carryOut(const QString& verb, const QJsonObject& request) {
     if (const auto act = acts_.find(verb); act != acts_.end()) {
-        return onControl(act->second, request);
-    }
-    if (verb == u"get") {
-        return look(target(request.value(u"control").toString()));
-    }
-    if (verb == u"format") {
-        return format(target(request.value(u"control").toString()));
-    }
-    if (verb == u"printer") {
-        return printer(request);
-    }
-    if (verb == u"camera") {
-        return camera(request);
-    }
-    if (verb == u"start") {
-        return start();
-    }
-    if (verb == u"practice") {
-        return practice(request);
-    }
-    if (verb == u"insert") {
-        insertRecord(settings_, request.value(u"table").toString(), request.value(u"row").toObject());
+        act->second(target(request), request);
         return {};
     }
-    if (verb == u"rows") {
-        return {{QStringLiteral("rows"), allRecords(settings_, request.value(u"table").toString())}};
+    const auto known = requests_.find(verb);
+    if (known == requests_.end()) {
+        throw PortError{QStringLiteral("unknown request: %1").arg(verb)};
     }
-    if (verb == u"setting") {
-        return setting(request);
-    }
-    if (verb == u"forms") {
-        return forms();
-    }
-    if (verb == u"focused") {
-        return focused();
-    }
-    if (verb == u"close") {
-        return close(request);
-    }
-    if (verb == u"answer") {
-        watcher_.queue(request.value(u"with").toArray());
-        return {};
-    }
-    if (verb == u"clipboard") {
-        return clipboard(request);
-    }
-    if (verb == u"shot") {
-        return shot(request);
-    }
-    throw PortError{QStringLiteral("unknown request: %1").arg(verb)};
+    return known->second(request);
 }
 
-QJsonObject Server::onControl(const Act& act, const QJsonObject& request) {
-    act(target(request.value(u"control").toString()), request);
-    return {};
-}
-
-Target Server::target(const QString& control) const {
+Target Server::target(const QJsonObject& request) const {
+    const QString control = request.value(u"control").toString();
     const ControlName name = parse(control);
     ::forms::Form* form = program_ ? program_->desk().peek(name.form) : nullptr;
     if (!form) {
@@ -221,6 +203,15 @@ QJsonObject Server::practice(const QJsonObject& request) {
     QDir().mkpath(backups);
     saveSettings(settings_, folder, backups);
     return {};
+}
+
+QJsonObject Server::insert(const QJsonObject& request) {
+    insertRecord(settings_, request.value(u"table").toString(), request.value(u"row").toObject());
+    return {};
+}
+
+QJsonObject Server::rows(const QJsonObject& request) {
+    return {{QStringLiteral("rows"), allRecords(settings_, request.value(u"table").toString())}};
 }
 
 QJsonObject Server::setting(const QJsonObject& request) {
@@ -272,6 +263,11 @@ QJsonObject Server::close(const QJsonObject& request) {
         hands::requireInput(*form);
     }
     window.close();
+    return {};
+}
+
+QJsonObject Server::queueAnswers(const QJsonObject& request) {
+    watcher_.queue(request.value(u"with").toArray());
     return {};
 }
 

@@ -34,17 +34,22 @@ public:
 
 private:
     using Act = std::function<void(const Target&, const QJsonObject&)>;
+    using Request = std::function<QJsonObject(const QJsonObject&)>;
 
+    void addActs();
+    void addRequests();
     QJsonObject carryOut(const QString& verb, const QJsonObject& request);
-    QJsonObject onControl(const Act& act, const QJsonObject& request);
-    Target target(const QString& control) const;
+    Target target(const QJsonObject& request) const;
 
     QJsonObject start();
     QJsonObject practice(const QJsonObject& request);
+    QJsonObject insert(const QJsonObject& request);
+    QJsonObject rows(const QJsonObject& request);
     QJsonObject setting(const QJsonObject& request);
     QJsonObject forms() const;
     QJsonObject focused() const;
     QJsonObject close(const QJsonObject& request);
+    QJsonObject queueAnswers(const QJsonObject& request);
     QJsonObject shot(const QJsonObject& request);
     QJsonObject clipboard(const QJsonObject& request);
     QJsonObject printer(const QJsonObject& request);
@@ -63,7 +68,9 @@ private:
     PortPictureSource pictureSource_{settings_};
     BoxWatcher watcher_;
     FrontWindows front_;
+    // What a person does to a control, and all other requests, by their verbs.
     std::map<QString, Act> acts_;
+    std::map<QString, Request> requests_;
     std::unique_ptr<shell::Program> program_;
     std::unique_ptr<qt::WindowStage> stage_;
 };

@@ -11,14 +11,12 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QListView;
-class QMenu;
 class QMenuBar;
 class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
 class QSlider;
 class QToolButton;
-class QVBoxLayout;
 
 namespace qt {
 
@@ -74,6 +72,7 @@ private:
     void bindText(forms::TextBox& control, Edit* edit);
     template <class Edit>
     void followCaret(forms::TextBox& control, Edit* edit);
+    void bindRows(forms::ListBox& control, QListView* view);
     void bindPresses(forms::ListBox& control, QListView* view);
 
     FormWindow& window_;
