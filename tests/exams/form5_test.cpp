@@ -1,7 +1,5 @@
 #include "exams/form5.h"
 
-#include <QFile>
-
 #include "exams/exam_windows.h"
 #include "exams/first_trimester_offers.h"
 #include "pictures/form19.h"
@@ -81,15 +79,6 @@ TEST_F(WritingWindow, WithoutADeviceSavesEmptyTexts) {
     EXPECT_EQ(query("SELECT*FROM 1TER WHERE NUMERO=2").field("DATECIRC"), store::Value(QString("")));
 }
 
-TEST_F(WritingWindow, TakesTheLastRowOfTheDeviceAndItsDate) {
-    store(14, "Ancien");
-    store(14, "ORIVANNE");
-    store(15, "01/02/2001");
-    Form5& form = newExam();
-    EXPECT_EQ(form.sheet.LblMachine.text(), "ORIVANNE");
-    EXPECT_EQ(form.sheet.LblDateCirc.text(), "01/02/2001");
-}
-
 TEST_F(WritingWindow, NumbersOnFromTheHighestAndLeavesGaps) {
     addExam(2, 1, "10/01/2002");
     addExam(2, 2, "11/02/2002", {{"TYPECHO", "2"}});
@@ -124,49 +113,7 @@ TEST_F(WritingWindow, ClearsItselfButForTheCircumferencesTheFrameAndTheColour) {
     EXPECT_EQ(form.sheet.Frame5.back(), 0xFFFFFFU);
 }
 
-TEST_F(WritingWindow, ALastPeriodGivesTheTheoreticalStartAndTheAge) {
-    Form5& form = newExam();
-    write(form.sheet.Txt1Ter(2), "01/03/2002");
-    EXPECT_EQ(form.sheet.Txt1Ter(3).text(), "15/03/2002");
-    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "5");
-}
-
-TEST_F(WritingWindow, WhicheverStartChangedLastDecidesTheAge) {
-    Form5& form = newExam();
-    write(form.sheet.Txt1Ter(3), "01/03/2002");
-    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "7");
-    write(form.sheet.Txt1Ter(4), "04/03/2002");
-    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "6,4");
-    write(form.sheet.Txt1Ter(4), "");
-    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "");
-}
-
-TEST_F(WritingWindow, NothingFiresWhileADateIsStillBeingTyped) {
-    Form5& form = newExam();
-    write(form.sheet.Txt1Ter(2), "01/03/");
-    write(form.sheet.Txt1Ter(2), "01/03/200");
-    EXPECT_EQ(form.sheet.Txt1Ter(3).text(), "");
-    EXPECT_TRUE(world_.boxes.said.isEmpty());
-}
-
-TEST_F(WritingWindow, ChangingTheExamDateLeavesTheAge) {
-    Form5& form = newExam();
-    write(form.sheet.Txt1Ter(3), "01/03/2002");
-    write(form.sheet.TxtDate, "12/04/2002");
-    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "7");
-}
-
 const QString kDateFormat = QStringLiteral("Veuillez saisir les dates selon le format JJ/MM/AA");
-
-TEST_F(WritingWindow, AnUnreadableExamDateEmptiesBothFieldsOfTheTheoreticalStart) {
-    Form5& form = newExam();
-    write(form.sheet.TxtDate, "hier");
-    write(form.sheet.Txt1Ter(2), "01/03/2002");
-    EXPECT_EQ(world_.boxes.said, QStringList({kDateFormat}));
-    EXPECT_EQ(form.sheet.Txt1Ter(2).text(), "");
-    EXPECT_EQ(form.sheet.Txt1Ter(3).text(), "");
-    EXPECT_EQ(form.sheet.LblAgeGesta.text(), "");
-}
 
 TEST_F(WritingWindow, ATheoreticalStartBeyond16BitsOfDaysIsRefusedToo) {
     Form5& form = newExam();
@@ -180,23 +127,6 @@ TEST_F(WritingWindow, ATheoreticalStartBeyond16BitsOfDaysIsRefusedToo) {
     EXPECT_EQ(form.sheet.Txt1Ter(2).text(), "");
     EXPECT_EQ(form.sheet.Txt1Ter(3).text(), "");
     EXPECT_EQ(form.sheet.LblAgeGesta.text(), "");
-}
-
-TEST_F(WritingWindow, AnUnreadableExamDateEmptiesTheUltrasoundStartAlone) {
-    Form5& form = newExam();
-    write(form.sheet.Txt1Ter(3), "01/03/2002");
-    write(form.sheet.TxtDate, "hier");
-    write(form.sheet.Txt1Ter(4), "01/03/2002");
-    EXPECT_EQ(world_.boxes.said, QStringList({kDateFormat}));
-    EXPECT_EQ(form.sheet.Txt1Ter(4).text(), "");
-    EXPECT_EQ(form.sheet.Txt1Ter(3).text(), "01/03/2002");
-}
-
-TEST_F(WritingWindow, ALastPeriodAtTheEndOfTheCalendarIsRefusedAndStays) {
-    Form5& form = newExam();
-    write(form.sheet.Txt1Ter(2), "25/12/9999");
-    EXPECT_EQ(world_.boxes.said, QStringList({kDateFormat}));
-    EXPECT_EQ(form.sheet.Txt1Ter(2).text(), "25/12/9999");
 }
 
 TEST_F(WritingWindow, TheCrownRumpLengthGivesTheStartCountedFromToday) {
@@ -229,33 +159,6 @@ TEST_F(WritingWindow, ALengthAbove85IsRefusedAndNoneDoesNothing) {
     EXPECT_EQ(world_.boxes.said,
               QStringList({"Valeur de LCC trop élevée, Calculez l 'âge gestationnel à l'aide du Fémur et du Bip"}));
     EXPECT_EQ(form.sheet.Txt1Ter(4).text(), "");
-}
-
-TEST_F(WritingWindow, ComputesTheBodyMassIndex) {
-    Form5& form = newExam();
-    write(form.sheet.TxtPds, "60");
-    EXPECT_EQ(form.sheet.Txt1Ter(0).text(), "");
-    write(form.sheet.TxtTaille, "170");
-    EXPECT_EQ(form.sheet.Txt1Ter(0).text(), "20,8");
-    write(form.sheet.TxtPds, "");
-    EXPECT_EQ(form.sheet.Txt1Ter(0).text(), "");
-}
-
-TEST_F(WritingWindow, AHeightOfZeroEndsInTheDefaultReport) {
-    Form5& form = newExam();
-    write(form.sheet.TxtPds, "60");
-    write(form.sheet.TxtTaille, "0");
-    EXPECT_EQ(world_.boxes.reported, QList<int>({11}));
-}
-
-TEST_F(WritingWindow, WeightAndHeightTakeDigitsAlone) {
-    Form5& form = newExam();
-    for (forms::TextBox* box : {&form.sheet.TxtPds, &form.sheet.TxtTaille}) {
-        for (const QChar c : QStringLiteral("1a,7.0")) {
-            type(*box, c);
-        }
-        EXPECT_EQ(box->text(), "170");
-    }
 }
 
 TEST_F(WritingWindow, TheTwoCountsHoldOneDigit) {
@@ -639,45 +542,6 @@ TEST_F(WritingWindow, ItsUnloadingBringsTheCursorBackAndHidesTheDossiersSteps) {
     EXPECT_FALSE(desk().at<dossier::Form4>().Command3.visible());
     EXPECT_FALSE(desk().at<dossier::Form4>().Command4.visible());
     EXPECT_TRUE(view().CmdRec.visible());
-}
-
-TEST_F(WritingWindow, AnOpeningThatFailsShowsNothingOfThePatientBefore) {
-    store(14, "ORIVANNE");
-    Form5& form = newExam("DUPONT");
-    form.sheet.Txt1Ter(26).setText("Conclusion de Marie");
-    form.sheet.TxtNumEcho.setText("7");
-    desk().hide("Form5");
-    ASSERT_TRUE(QFile::remove(fakes::pathOf(world_, store::FileKind::Echo)));
-    press(dossierOf("MARTIN").Cmd1Ter);
-    EXPECT_EQ(world_.boxes.reported.size(), 1);
-    EXPECT_EQ(form.sheet.LblNom.text(), "MARTIN");
-    EXPECT_EQ(form.sheet.LblPrenom.text(), "Anne");
-    EXPECT_EQ(form.sheet.LblNumInt.text(), "3");
-    EXPECT_EQ(form.sheet.Txt1Ter(26).text(), "");
-    EXPECT_EQ(form.sheet.TxtNumEcho.text(), "");
-}
-
-TEST_F(WritingWindow, HandsItsNumberToTheWindowOfPictures) {
-    desk().add("Form19", [this] { return std::make_unique<pictures::Form19>(world_.around); });
-    Form5& form = newExam();
-    form.sheet.TxtNumEcho.setText("7");
-    press(form.CmdPhotos);
-    EXPECT_TRUE(shown("Form19"));
-    auto& window = desk().at<pictures::Form19>();
-    EXPECT_EQ(window.TxtNumEcho.text(), "7");
-    const QString patient = window.TxtNom.text();
-    EXPECT_NE(patient, "");
-    // Opened again it takes the patient anew.
-    window.TxtNom.setText("AUTRE");
-    press(form.CmdPhotos);
-    EXPECT_EQ(window.TxtNom.text(), patient);
-}
-
-TEST_F(WritingWindow, NeedsAnOpenDossier) {
-    desk().show("Form4");
-    press(desk().at<dossier::Form4>().Cmd1Ter);
-    EXPECT_EQ(world_.boxes.said, QStringList({"Veuillez ouvrir un dossier patient au préalable."}));
-    EXPECT_EQ(desk().peek("Form5"), nullptr);
 }
 
 }  // namespace

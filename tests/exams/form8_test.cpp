@@ -1,5 +1,4 @@
 #include "exams/form8.h"
-#include "pictures/form19.h"
 
 #include <QFile>
 
@@ -106,15 +105,6 @@ TEST_F(LaterWritingWindow, TheFirstExamOfADossierLeavesTheNumberOnTheLabel) {
     EXPECT_EQ(form.lblNumEcho.text(), "7");
 }
 
-TEST_F(LaterWritingWindow, TakesTheLastRowOfTheDeviceAndItsDate) {
-    store(14, "Ancien");
-    store(14, "ORIVANNE");
-    store(15, "01/02/2001");
-    Form8& form = newLater();
-    EXPECT_EQ(form.sheet.LblMachine.text(), "ORIVANNE");
-    EXPECT_EQ(form.sheet.LblDateCirc.text(), "01/02/2001");
-}
-
 TEST_F(LaterWritingWindow, CountsInOneSequenceWithTheFirstTrimesterAndApartFromGynaecology) {
     addExam(2, 1, "10/01/2002", {{"TYPECHO", "1"}});
     addLater(2, 2, "11/02/2002");
@@ -142,13 +132,6 @@ TEST_F(LaterWritingWindow, OpensFromEachOfItsButtonsAndMenus) {
     press(desk().at<Form8>().CmdQuitter);
     press(laterView().Hlb2T);
     EXPECT_TRUE(shown("Form8"));
-}
-
-TEST_F(LaterWritingWindow, NeedsAnOpenDossier) {
-    desk().show("Form4");
-    press(desk().at<dossier::Form4>().Cmd2Ter);
-    EXPECT_EQ(world_.boxes.said, QStringList({"Veuillez ouvrir un dossier patient au préalable."}));
-    EXPECT_EQ(desk().peek("Form8"), nullptr);
 }
 
 TEST_F(LaterWritingWindow, AnOpeningClearsTheFieldsAndKeepsTheNumberOfFetusesAndTheFrames) {
@@ -184,77 +167,8 @@ TEST_F(LaterWritingWindow, AnOpeningOverAFilledStartClearsTheAgeByItsChange) {
     }
 }
 
-TEST_F(LaterWritingWindow, ALastPeriodGivesTheTheoreticalStartAndTheAge) {
+TEST_F(LaterWritingWindow, TheNumberOfFetusesHoldsOneDigit) {
     Form8& form = newLater();
-    write(form.sheet.Txt2T(2), "01/03/2002");
-    EXPECT_EQ(form.sheet.Txt2T(3).text(), "15/03/2002");
-    EXPECT_EQ(form.LblAgeGesta.text(), "5");
-}
-
-TEST_F(LaterWritingWindow, WhicheverStartChangedLastDecidesTheAge) {
-    Form8& form = newLater();
-    write(form.sheet.Txt2T(3), "01/03/2002");
-    EXPECT_EQ(form.LblAgeGesta.text(), "7");
-    write(form.sheet.Txt2T(4), "04/03/2002");
-    EXPECT_EQ(form.LblAgeGesta.text(), "6,4");
-    write(form.sheet.Txt2T(4), "");
-    EXPECT_EQ(form.LblAgeGesta.text(), "");
-}
-
-TEST_F(LaterWritingWindow, ChangingTheExamDateLeavesTheAge) {
-    Form8& form = newLater();
-    write(form.sheet.Txt2T(3), "01/03/2002");
-    write(form.sheet.txtDatexam, "12/04/2002");
-    EXPECT_EQ(form.LblAgeGesta.text(), "7");
-}
-
-const QString kDateFormat = QStringLiteral("Veuillez saisir les dates selon le format JJ/MM/AA");
-
-TEST_F(LaterWritingWindow, AnUnreadableExamDateEmptiesBothFieldsOfTheTheoreticalStart) {
-    Form8& form = newLater();
-    write(form.sheet.txtDatexam, "hier");
-    write(form.sheet.Txt2T(2), "01/03/2002");
-    EXPECT_EQ(world_.boxes.said, QStringList({kDateFormat}));
-    EXPECT_EQ(form.sheet.Txt2T(2).text(), "");
-    EXPECT_EQ(form.sheet.Txt2T(3).text(), "");
-}
-
-TEST_F(LaterWritingWindow, AnUnreadableExamDateEmptiesTheUltrasoundStartAlone) {
-    Form8& form = newLater();
-    write(form.sheet.Txt2T(3), "01/03/2002");
-    write(form.sheet.txtDatexam, "hier");
-    write(form.sheet.Txt2T(4), "01/03/2002");
-    EXPECT_EQ(world_.boxes.said, QStringList({kDateFormat}));
-    EXPECT_EQ(form.sheet.Txt2T(4).text(), "");
-    EXPECT_EQ(form.sheet.Txt2T(3).text(), "01/03/2002");
-    EXPECT_EQ(form.LblAgeGesta.text(), "");
-}
-
-TEST_F(LaterWritingWindow, ALastPeriodAtTheEndOfTheCalendarIsRefusedAndStays) {
-    Form8& form = newLater();
-    write(form.sheet.Txt2T(2), "25/12/9999");
-    EXPECT_EQ(world_.boxes.said, QStringList({kDateFormat}));
-    EXPECT_EQ(form.sheet.Txt2T(2).text(), "25/12/9999");
-}
-
-TEST_F(LaterWritingWindow, ComputesTheBodyMassIndex) {
-    Form8& form = newLater();
-    write(form.sheet.TxtPds, "60");
-    EXPECT_EQ(form.sheet.Txt2T(0).text(), "");
-    write(form.sheet.TxtTaille, "170");
-    EXPECT_EQ(form.sheet.Txt2T(0).text(), "20,8");
-    write(form.sheet.TxtTaille, "");
-    EXPECT_EQ(form.sheet.Txt2T(0).text(), "");
-}
-
-TEST_F(LaterWritingWindow, WeightAndHeightTakeDigitsAloneAndTheNumberHoldsOne) {
-    Form8& form = newLater();
-    for (forms::TextBox* box : {&form.sheet.TxtPds, &form.sheet.TxtTaille}) {
-        for (const QChar c : QStringLiteral("1a,7.0")) {
-            type(*box, c);
-        }
-        EXPECT_EQ(box->text(), "170");
-    }
     type(form.sheet.TxtNbrE, u'2');
     EXPECT_EQ(form.sheet.TxtNbrE.text(), "2");
     type(form.sheet.TxtNbrE, u'3');
@@ -893,28 +807,6 @@ TEST_F(LaterWritingWindow, NumbersLeaveGapsAndComeBackAtTheEnd) {
     world_.boxes.answers = {true, true};
     press(laterView().CmdSupprime);
     EXPECT_EQ(newLater().sheet.TxtNumEcho.text(), "2");
-}
-
-TEST_F(LaterWritingWindow, HandsItsNumberToTheCaptureOfPictures) {
-    desk().add("Form19", [this] { return std::make_unique<pictures::Form19>(world_.around); });
-    Form8& form = newLater();
-    write(form.sheet.TxtNumEcho, "7");
-    press(form.CmdPhotos);
-    EXPECT_TRUE(shown("Form19"));
-    EXPECT_EQ(desk().at<pictures::Form19>().TxtNumEcho.text(), "7");
-}
-
-TEST_F(LaterWritingWindow, AnOpeningThatFindsNoBaseShowsNothingOfTheLastExam) {
-    addLater(3, 1, "10/01/2002");
-    Form8& form = newLater();
-    write(form.sheet.Txt2T(32), "d'une autre");
-    dossierOf("MARTIN");
-    state_.PathEcho = world_.folder.filePath("absent/ECHO.MDB");
-    press(desk().at<dossier::Form4>().Cmd2Ter);
-    EXPECT_EQ(world_.boxes.reported.size(), 1);
-    EXPECT_EQ(form.sheet.LblNom.text(), "MARTIN");
-    EXPECT_EQ(form.sheet.Txt2T(32).text(), "");
-    EXPECT_EQ(form.sheet.TxtNumEcho.text(), "");
 }
 
 }  // namespace
