@@ -110,8 +110,8 @@ void Server::addActs() {
 }
 
 void Server::addRequests() {
-    const auto own = [this](QJsonObject (Server::*answer)(const QJsonObject&)) {
-        return [this, answer](const QJsonObject& r) { return (this->*answer)(r); };
+    const auto own = [this](QJsonObject (Server::*member)(const QJsonObject&)) {
+        return [this, member](const QJsonObject& r) { return (this->*member)(r); };
     };
     requests_ = {
         {QStringLiteral("get"), [this](const QJsonObject& r) { return look(target(r)); }},
