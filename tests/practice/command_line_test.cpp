@@ -1,4 +1,5 @@
 #include <sqlite3.h>
+#include <QTemporaryDir>
 
 #include <QCoreApplication>
 #include <QFile>

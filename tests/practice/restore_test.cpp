@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 #include <unistd.h>
+#include <QTemporaryDir>
 
 #include <QFile>
 

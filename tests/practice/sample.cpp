@@ -1,5 +1,7 @@
 #include "practice/sample.h"
 
+#include <QTemporaryDir>
+
 namespace {
 
 Row found(const QList<Row>& rows, const QMap<QString, int>& numbers) {

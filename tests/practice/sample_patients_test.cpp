@@ -1,6 +1,7 @@
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
+#include <QTemporaryDir>
 
 #include "practice/sample.h"
 
