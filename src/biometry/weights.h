@@ -15,8 +15,8 @@ inline constexpr QStringView kWeightNeedsMessage =
 inline constexpr QStringView kRatiosNeedMessage = u"Veuillez saisir une valeur pour Pied, Fémur, Orbites et Bip";
 
 /// The estimated fetal weight from the texts of the head circumference, the abdominal circumference and the femur, in
-/// millimetres, by their leading numbers: (cc² x 0.053 + ca² x 0.32) x fem / 1000 as whole grams, ties to even, followed
-/// by " g". Refuses if one of them is "". Source: the practice's formula, which names none.
+/// millimetres, by their leading numbers: (cc² x 0.053 + ca² x 0.32) x fem / 1000 as whole grams, ties to even,
+/// followed by " g". Refuses if one of them is "". Source: the practice's formula, which names none.
 Outcome estimatedWeight(QStringView cc, QStringView ca, QStringView fem);
 
 /// The same formula on the median boxes, from week 16 to 41 of amenorrhoea inclusive; "" outside.
