@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <thread>
 
 #include "base/errors.h"
 #include "store/collation.h"
@@ -15,8 +16,10 @@ namespace {
 using base::ErrorNumber;
 using base::RuntimeError;
 
-// How long a station waits for another one that writes.
-constexpr int kPatienceInMs = 5000;
+// How long a station waits for another one that writes, and how often it looks meanwhile. Long pauses would make it
+// miss its turn: stations that write one record after the other leave the file free for moments only.
+constexpr std::chrono::seconds kPatience{5};
+constexpr std::chrono::milliseconds kPause{1};
 
 // Shapes and writing statements kept; the program uses some forty, and more come from generated texts alone.
 constexpr qsizetype kMostShapes = 256;
@@ -96,15 +99,29 @@ void Connection::openFile(const QString& path) {
     }
 }
 
-void Connection::configure() const {
+void Connection::configure() {
     sqlite3_extended_result_codes(database_, 1);
-    sqlite3_busy_timeout(database_, kPatienceInMs);
+    sqlite3_busy_handler(database_, waitForOthers, this);
     for (const int option : {SQLITE_DBCONFIG_DQS_DML, SQLITE_DBCONFIG_DQS_DDL, SQLITE_DBCONFIG_TRUSTED_SCHEMA}) {
         sqlite3_db_config(database_, option, 0, nullptr);
     }
     sqlite3_db_config(database_, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     addCollation(database_);
     addLike(database_);
+}
+
+// Whether the file is to be tried once more.
+int Connection::waitForOthers(void* self, int tries) {
+    auto& connection = *static_cast<Connection*>(self);
+    const auto now = std::chrono::steady_clock::now();
+    if (tries == 0) {
+        connection.waitingSince_ = now;
+    }
+    if (now - connection.waitingSince_ >= kPatience) {
+        return 0;
+    }
+    std::this_thread::sleep_for(kPause);
+    return 1;
 }
 
 void Connection::checkMark() const {

@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QString>
+#include <chrono>
 #include <memory>
 
 #include "store/shape.h"
@@ -33,7 +34,8 @@ public:
 private:
     explicit Connection(const QString& path);
     void openFile(const QString& path);
-    void configure() const;
+    void configure();
+    static int waitForOthers(void* self, int tries);
     void checkMark() const;
     void checkSize(const QString& path) const;
     void setJournal() const;
@@ -45,6 +47,7 @@ private:
     quint64 device_ = 0;
     quint64 inode_ = 0;
     FileKind kind_ = FileKind::Nom;
+    std::chrono::steady_clock::time_point waitingSince_;
     QHash<QByteArray, std::shared_ptr<Shape>> shapes_;
     QHash<QByteArray, std::shared_ptr<Statement>> writers_;
 };

@@ -117,8 +117,9 @@ TEST_F(OneExam, IsWholeAfterAHundredKillsOfItsWriter) {
               << " written but not yet acknowledged\n";
 }
 
+// For longer than a station waits: none of them may be left without its turn.
 TEST_F(OneExam, IsJoinedByAllThatTwoStationsWriteAtOnce) {
-    constexpr int kCount = 100;
+    constexpr int kCount = 300;
     OtherStation second(u"add"_qs, path, {u"2"_qs, QString::number(kCount)});
     OtherStation third(u"add"_qs, path, {u"3"_qs, QString::number(kCount)});
     EXPECT_EQ(second.line(), u"ready"_qs);
@@ -135,12 +136,15 @@ TEST_F(OneExam, IsJoinedByAllThatTwoStationsWriteAtOnce) {
     for (int i = 1; i <= kCount; ++i) {
         numbers << QString::number(i);
     }
+    qsizetype kept = 0;
     for (const auto& dossier : {u"1"_qs, u"2"_qs, u"3"_qs}) {
         const auto query = u"SELECT*FROM 1TER WHERE NUMERO=%1 ORDER BY NUMECHO"_qs.arg(dossier);
-        EXPECT_EQ(column(echo, query, u"NUMECHO"_qs), numbers);
+        const QStringList stored = column(echo, query, u"NUMECHO"_qs);
+        EXPECT_EQ(stored, numbers);
+        kept += stored.size();
     }
     EXPECT_EQ(integrity(), "ok");
-    std::cout << "writers at once: 3 stations, " << 3 * kCount << " records, 0 lost, 0 errors\n";
+    std::cout << "writers at once: 3 stations, " << 3 * kCount << " records, " << 3 * kCount - kept << " lost\n";
 }
 
 TEST_F(OneExam, WaitsFiveSecondsForAnotherStationThenSaysSo) {

@@ -3,8 +3,6 @@
 #include <QFile>
 #include <ostream>
 
-#include "store/patience.h"
-
 using store::Database;
 using store::Field;
 using store::FieldKind;
@@ -24,7 +22,7 @@ void add(const Database& database, const QString& table, const Record& record) {
     for (const auto& [field, value] : record) {
         rows.set(field, value);
     }
-    saveInTurn(rows);
+    rows.update();
 }
 
 void addPatient(const Database& database, int number, const QString& name, const QString& firstName) {

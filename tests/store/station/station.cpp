@@ -11,7 +11,6 @@
 #include <cstdio>
 #include <map>
 
-#include "../patience.h"
 #include "base/errors.h"
 #include "store/database.h"
 #include "store/recordset.h"
@@ -61,7 +60,7 @@ void addExams(const QString& path, int dossier, int count) {
         exams.set(QStringLiteral("NUMERO"), dossier);
         exams.set(QStringLiteral("NUMECHO"), number);
         writeAll(exams, QStringLiteral("texte"));
-        saveInTurn(exams);
+        exams.update();
     }
     answer(QStringLiteral("done"));
 }
