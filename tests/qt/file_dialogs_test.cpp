@@ -106,6 +106,15 @@ TEST_F(FileDialogsTest, OpeningTakesNoFileThatIsNotThere) {
     EXPECT_EQ(dialogs_.open("Images (*.BMP;*.JPG;*.ICO)|*.BMP;*.JPG;*.ICO", {}, ports::MustExist::Yes), "");
 }
 
+TEST_F(FileDialogsTest, OpeningTakesANameThatIsNotThereWhereItNeedNotBe) {
+    whenOpen([this](QFileDialog& dialog) {
+        dialog.setDirectory(folder_.path());
+        dialog.selectFile(path("Mardi "));
+        accept(dialog);
+    });
+    EXPECT_EQ(dialogs_.open("Fichiers Veranox (*.*)|*.*", {}, ports::MustExist::No), path("Mardi "));
+}
+
 TEST_F(FileDialogsTest, ShowFilesWhateverTheCaseOfTheirEndings) {
     EXPECT_EQ(toolkitFilter("Images (*.BMP;*.JPG;*.ICO)|*.BMP;*.JPG;*.ICO"),
               "Images (*.BMP *.bmp *.JPG *.jpg *.ICO *.ico)");
