@@ -325,10 +325,8 @@ void Form12::openCurves() {
 }
 
 void Form12::queryExams(const QString& text) {
-    state_.WorkEcho = state_.PathEcho;
-    state_.DbEcho = store::Database::open(state_.WorkEcho);
-    state_.SqlEcho = text;
-    state_.Rs = state_.DbEcho.openRecordset(text);
+    state_.openExams();
+    state_.queryExams(text);
 }
 
 // The viewing window goes on stepping from the record in use.

@@ -20,8 +20,7 @@ Form2::Form2(ports::Surroundings& around, store::State& state)
 }
 
 void Form2::begin() {
-    state_.SqlNom = QStringLiteral("SELECT*FROM FICHEPATIENT ORDER BY NUMINT");
-    state_.Rs = state_.DbNom.openRecordset(state_.SqlNom);
+    state_.queryPatients(QStringLiteral("SELECT*FROM FICHEPATIENT ORDER BY NUMINT"));
     standOnHighestNumber();
     sheet.wipe({});
     sheet.TxtCivilitee.setFocus();

@@ -124,7 +124,7 @@ void Form4::loadLetterhead() {
                                    {22, TxtVille, {}},
                                    {23, TxtTel, QStringLiteral("Tél :   ")}}};
     for (const Row& row : rows) {
-        queryExams(QStringLiteral("SELECT*FROM OPTIONS WHERE NUMEROS = %1 ").arg(row.rubric));
+        state_.queryExams(QStringLiteral("SELECT*FROM OPTIONS WHERE NUMEROS = %1 ").arg(row.rubric));
         row.field.setText({});
         for (; !state_.Rs.eof(); state_.Rs.moveNext()) {
             row.field.setText(row.lead + state_.Rs.text(QStringLiteral("Texte")));
@@ -132,24 +132,8 @@ void Form4::loadLetterhead() {
     }
 }
 
-void Form4::queryPatients(const QString& query) {
-    state_.SqlNom = query;
-    state_.Rs = state_.DbNom.openRecordset(query);
-}
-
-// A backup may have closed the base since this window opened it.
-void Form4::openExams() {
-    state_.WorkEcho = state_.PathEcho;
-    state_.DbEcho = store::Database::open(state_.WorkEcho);
-}
-
-void Form4::queryExams(const QString& query) {
-    state_.SqlEcho = query;
-    state_.Rs = state_.DbEcho.openRecordset(query);
-}
-
 void Form4::queryByName() {
-    queryPatients(kByName);
+    state_.queryPatients(kByName);
 }
 
 void Form4::reopenPatients() {
@@ -186,7 +170,7 @@ void Form4::onText1Change() {
     if (Text1.text().isEmpty()) {
         return;
     }
-    queryPatients(kByNames);
+    state_.queryPatients(kByNames);
     state_.Rs.findFirst(QStringLiteral("NOM>='") + Text1.text() + u'\'');
     if (state_.Rs.noMatch()) {
         around_.boxes.message(QStringLiteral("Ce Nom n'existe pas"));
@@ -198,11 +182,11 @@ void Form4::onText1Change() {
 void Form4::onText2Change() {
     enableBrowsing();
     if (dossierOpen()) {
-        queryPatients(QStringLiteral("SELECT*FROM FICHEPATIENT WHERE NOM='") + NomLbl.text() +
-                      QStringLiteral("' ORDER BY NOM, PRENOM"));
+        state_.queryPatients(QStringLiteral("SELECT*FROM FICHEPATIENT WHERE NOM='") + NomLbl.text() +
+                             QStringLiteral("' ORDER BY NOM, PRENOM"));
         state_.Rs.findFirst(QStringLiteral("PRENOM>='") + Text2.text() + u'\'');
     } else {
-        queryPatients(kByName);
+        state_.queryPatients(kByName);
         state_.Rs.findFirst(QStringLiteral("NOM>='") + Text2.text() + u'\'');
     }
     AFFICHE_FICHE();
@@ -219,7 +203,7 @@ void Form4::showEnd(void (Recordset::*move)()) {
     enableBrowsing();
     Command3.show();
     Command4.show();
-    queryPatients(kByName);
+    state_.queryPatients(kByName);
     (state_.Rs.*move)();
     AFFICHE_FICHE();
 }
@@ -249,8 +233,8 @@ void Form4::fillList(const ExamList& exams) {
     if (!requireDossier()) {
         return;
     }
-    openExams();
-    queryExams(QStringLiteral("SELECT*FROM %1 WHERE NUMERO=%2 ORDER BY NUMECHO").arg(exams.table, number()));
+    state_.openExams();
+    state_.queryExams(QStringLiteral("SELECT*FROM %1 WHERE NUMERO=%2 ORDER BY NUMECHO").arg(exams.table, number()));
     state_.Rs.findFirst(QStringLiteral("NUMERO=") + number());
     if (state_.Rs.noMatch()) {
         reopenPatients();
@@ -259,7 +243,7 @@ void Form4::fillList(const ExamList& exams) {
     for (state_.Rs.moveFirst(); !state_.Rs.eof(); state_.Rs.moveNext()) {
         exams.list.add(state_.Rs.text(QStringLiteral("DATEXAM")));
     }
-    queryExams(QStringLiteral("SELECT*FROM CIVILITES ORDER BY NOM, PRENOM"));
+    state_.queryExams(QStringLiteral("SELECT*FROM CIVILITES ORDER BY NOM, PRENOM"));
 }
 
 void Form4::openFromList(const ExamList& exams) {
@@ -279,8 +263,8 @@ void Form4::showLastObstetricExam() {
 }
 
 void Form4::openFound(const ExamList& exams, const QString& criterion, const QString& none) {
-    openExams();
-    queryExams(QStringLiteral("SELECT*FROM %1  WHERE NUMERO=%2 ORDER BY NUMECHO").arg(exams.table, number()));
+    state_.openExams();
+    state_.queryExams(QStringLiteral("SELECT*FROM %1  WHERE NUMERO=%2 ORDER BY NUMECHO").arg(exams.table, number()));
     state_.Rs.findLast(criterion);
     if (state_.Rs.noMatch()) {
         around_.boxes.message(none);
@@ -314,7 +298,7 @@ void Form4::onCmdModifieClick() {
 void Form4::standOnShownPatient() {
     const Recordset& rs = state_.Rs;
     if (!rs.standsOn(QStringLiteral("FICHEPATIENT")) || rs.text(QStringLiteral("Numint")) != NumLbl.text()) {
-        queryPatients(kByNames);
+        state_.queryPatients(kByNames);
         state_.Rs.findFirst(QStringLiteral("NUMINT=") + number());
     }
 }

@@ -97,9 +97,6 @@ private:
     void wireDossier();
 
     void loadLetterhead();
-    void queryPatients(const QString& query);
-    void openExams();
-    void queryExams(const QString& query);
 
     void onText1Change();
     void onText2Change();

@@ -23,13 +23,11 @@ void ExamLife::copyIdentity(forms::Label& surname, forms::Label& firstName, form
 }
 
 void ExamLife::openBase() const {
-    state_.WorkEcho = state_.PathEcho;
-    state_.DbEcho = store::Database::open(state_.WorkEcho);
+    state_.openExams();
 }
 
 void ExamLife::query(const QString& text) const {
-    state_.SqlEcho = text;
-    state_.Rs = state_.DbEcho.openRecordset(text);
+    state_.queryExams(text);
 }
 
 QString ExamLife::lastStored(int rubric) const {

@@ -81,8 +81,9 @@ void Form9::load() {
 void Form9::openRubric(const Rubric& rubric) {
     Frame1.setText(rubric.title.toString());
     LblEspion.setText(QString::number(rubric.number));
-    openBase();
-    query(QStringLiteral("SELECT*FROM OPTIONS WHERE NUMEROS = %1 ").arg(rubric.number) + rubric.order.toString());
+    state_.openExams();
+    state_.queryExams(QStringLiteral("SELECT*FROM OPTIONS WHERE NUMEROS = %1 ").arg(rubric.number) +
+                      rubric.order.toString());
     fillList();
 }
 
@@ -90,22 +91,12 @@ int Form9::rubricNumber() const {
     return base::toInt16(base::toNumber(LblEspion.text()));
 }
 
-void Form9::openBase() {
-    state_.WorkEcho = state_.PathEcho;
-    state_.DbEcho = store::Database::open(state_.WorkEcho);
-}
-
-void Form9::query(const QString& text) {
-    state_.SqlEcho = text;
-    state_.Rs = state_.DbEcho.openRecordset(text);
-}
-
 void Form9::queryRubric() {
-    query(QStringLiteral("SELECT*FROM OPTIONS WHERE NUMEROS =%1").arg(rubricNumber()));
+    state_.queryExams(QStringLiteral("SELECT*FROM OPTIONS WHERE NUMEROS =%1").arg(rubricNumber()));
 }
 
 void Form9::reopenRubric() {
-    openBase();
+    state_.openExams();
     queryRubric();
 }
 
@@ -212,7 +203,7 @@ void Form9::onList1DoubleClick() {
     }
     chosen_ = List1.text();
     QString letter;
-    attempt([this] { openBase(); });
+    attempt([this] { state_.openExams(); });
     attempt([this] { queryRubric(); });
     attempt([&] {
         findChosen();

@@ -67,8 +67,6 @@ private:
     void onCmdEnregClick();
 
     int rubricNumber() const;
-    void openBase();
-    void query(const QString& text);
     void queryRubric();
     void reopenRubric();
     void fillList();

@@ -9,6 +9,21 @@ namespace store {
 
 /// What all windows share about the store: the paths, the handles, the last query texts and the current cursors.
 struct State {
+    /// Opens the base of the exams anew at the path of its setting: a backup may have closed it.
+    void openExams() {
+        WorkEcho = PathEcho;
+        DbEcho = Database::open(WorkEcho);
+    }
+    /// Runs a query on the base of the exams, or on that of the patients, into the one current cursor.
+    void queryExams(const QString& text) {
+        SqlEcho = text;
+        Rs = DbEcho.openRecordset(text);
+    }
+    void queryPatients(const QString& text) {
+        SqlNom = text;
+        Rs = DbNom.openRecordset(text);
+    }
+
     // The settings as the dossier window read them at its load, and the backup folder.
     QString PathEcho, PathNom, PathAtcd, PathEchotek, PathSauve;
     // The paths through which the handlers open.
