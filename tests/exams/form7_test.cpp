@@ -320,6 +320,19 @@ TEST_F(CorrectionWindow, TheViewNamesThePatientWhoseExamWasCorrected) {
     EXPECT_EQ(view().LblNumInt.text(), "3");
 }
 
+// The save looks for the exam anew, and there is none.
+TEST_F(CorrectionWindow, AnExamDeletedMeanwhileIsReportedAndNoOtherIsWritten) {
+    const Form7& form = openOnSecond();
+    write(desk().at<Form7>().sheet.Txt1Ter(26), "après");
+    query("SELECT*FROM 1TER WHERE NUMERO=2And NUMECHO=2").remove();
+    save(true);
+    EXPECT_EQ(world_.boxes.reported, QList<int>({3021}));
+    EXPECT_TRUE(form.shown());
+    EXPECT_EQ(form.sheet.Txt1Ter(26).text(), "après");
+    EXPECT_EQ(stored(2, "NUMECHO"), QStringList({"1", "3"}));
+    EXPECT_EQ(stored(2, "CONCLU1"), QStringList({"", ""}));
+}
+
 TEST_F(CorrectionWindow, AStoreErrorKeepsTheWindowAndItsEntries) {
     Form7& form = openOnSecond();
     write(form.sheet.TxtNumEcho, "deux");
