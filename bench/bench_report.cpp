@@ -129,16 +129,29 @@ void typingTheReportAndLayingItOut(benchmark::State& state) {
     }
 }
 
-void threePagesFromValuesToPdf(benchmark::State& state) {
+// Each into a file of its own, as those of the office suite.
+template <class Seen>
+void threePagesToPdf(benchmark::State& state, Seen seen) {
     const QTemporaryDir folder;
-    PdfPrinters printers(folder.filePath(QStringLiteral("rapport.pdf")));
+    int number = 0;
     for (auto _ : state) {
+        PdfPrinters printers(folder.filePath(QStringLiteral("%1.pdf").arg(++number)));
         forms::Desk desk;
         Window window(desk);
         type(longReport(), window.Box);
-        layOut(window.Box);
+        seen(window.Box);
         PrintRTF(window.Box, *printers.standard(), QStringLiteral("Essai"), kPaperMargins);
     }
+}
+
+// Laid out for the paper alone: the office suite has no window either.
+void threePagesFromValuesToPdf(benchmark::State& state) {
+    threePagesToPdf(state, [](const forms::RichText&) {});
+}
+
+// Laid out in the editor as well, whose lines are of another width.
+void threePagesThroughTheEditor(benchmark::State& state) {
+    threePagesToPdf(state, layOut);
 }
 
 /// The same operations as rich text codes, for a program that reads those.
@@ -210,7 +223,7 @@ private:
 
 // What one file more costs in one run, without the start of the suite.
 void officeSuite(benchmark::State& state) {
-    constexpr int kMany = 11;
+    constexpr int kMany = 41;
     Office office;
     if (!office.isThere()) {
         state.SkipWithError("no soffice here: apt install libreoffice-writer-nogui");
@@ -266,6 +279,7 @@ int main(int argc, char** argv) {
     side_by_side::within("text of triplets, later", composingLaterTriplets, 1);
     side_by_side::alone("report typed and laid out", typingTheReportAndLayingItOut);
     side_by_side::pairByHand("3 pages to PDF, office suite", threePagesFromValuesToPdf, officeSuite, 0.1);
+    side_by_side::alone("3 pages to PDF, through the editor", threePagesThroughTheEditor);
     side_by_side::within("key in 20 pages, at %", oneKeyInTwentyPages, 2, {0, 50, 100});
     return side_by_side::run(argc, argv);
 }
