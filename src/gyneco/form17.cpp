@@ -42,7 +42,6 @@ void Form17::save() {
         exam = life.state().Rs;
         if (life.confirmCorrection()) {
             writeChanges();
-            setPointer(forms::Pointer::Normal);
             life.boxes().message(QStringLiteral("Compte rendu modifié"));
         }
     }

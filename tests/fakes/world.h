@@ -51,6 +51,7 @@ public:
     void message(const QString& text, ports::Icon icon) override {
         said << text;
         saidIcons << icon;
+        whenSaid();
     }
     bool ask(const QString& text, ports::Icon icon, const ports::Asking& asking) override {
         asked << text;
@@ -73,6 +74,7 @@ public:
     QList<int> reported;
     QStringList reportedTexts;
     std::function<void()> whenAsked = [] {};
+    std::function<void()> whenSaid = [] {};
 };
 
 class FileDialogs final : public ports::FileDialogs {

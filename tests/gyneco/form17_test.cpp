@@ -77,14 +77,38 @@ TEST_F(GynaecologyCorrection, ANoClosesTheWindowAndLosesTheEntries) {
     EXPECT_EQ(stored(2, "CONCLU"), QStringList({"Première"}));
 }
 
-TEST_F(GynaecologyCorrection, TheHourglassStandsAlreadyAtTheQuestion) {
+TEST_F(GynaecologyCorrection, TheHourglassStandsFromTheQuestionToTheReport) {
     addExam(2, 1, "11/02/2002");
     viewLast();
     Form17& form = correct();
-    auto pointer = forms::Pointer::Normal;
-    world_.boxes.whenAsked = [&] { pointer = form.pointer(); };
+    std::vector<forms::Pointer> pointers;
+    const auto look = [&] { pointers.push_back(form.pointer()); };
+    world_.boxes.whenAsked = look;
+    world_.boxes.whenSaid = look;
+    const auto seen = form.observePointer(look);
     answer(form, true);
-    EXPECT_EQ(pointer, forms::Pointer::Busy);
+    // Set, asked, reported, set back.
+    EXPECT_EQ(pointers,
+              std::vector({forms::Pointer::Busy, forms::Pointer::Busy, forms::Pointer::Busy, forms::Pointer::Normal}));
+}
+
+TEST_F(GynaecologyCorrection, ItsControlsHaveTheirCaptions) {
+    addExam(2, 1, "11/02/2002");
+    viewLast();
+    const std::vector<std::pair<const char*, const char*>> captions{
+        {"Command1", "Monit. Ovulation"},
+        {"Command2", "&Gynéco"},
+        {"Frame3", "Utérus"},
+        {"Frame4", "Annexes"},
+        {"Frame5", "Douglas"},
+        {"Frame6", "Masse"},
+        {"Frame7", "Conclusion"},
+    };
+    const Form17& form = correct();
+    for (const auto& [control, caption] : captions) {
+        EXPECT_EQ(form.find(QString(control))->text(), caption) << control;
+    }
+    EXPECT_EQ(form.find(u"CmdPhotos"), nullptr);
 }
 
 TEST_F(GynaecologyCorrection, ARenumberedExamIsTheOneThatShows) {
