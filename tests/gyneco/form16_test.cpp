@@ -29,6 +29,25 @@ TEST_F(GynaecologyWriting, OpensEmptyOnTheFirstExamOfADossier) {
     }
 }
 
+TEST_F(GynaecologyWriting, ItsControlsHaveTheirCaptions) {
+    const std::vector<std::pair<const char*, const char*>> captions{
+        {"Label1", "Echographie Pelvienne"},
+        {"Command1", "Monit. Ovulation"},
+        {"Command2", "&Gynéco"},
+        {"CmdEnregis", "&Enregistrer"},
+        {"CmdPhotos", "&Photos"},
+        {"Frame3", "Utérus"},
+        {"Frame4", "Annexes"},
+        {"Frame5", "Douglas"},
+        {"Frame6", "Masse"},
+        {"Frame7", "Conclusion"},
+    };
+    const Form16& form = newExam();
+    for (const auto& [control, caption] : captions) {
+        EXPECT_EQ(form.find(QString(control))->text(), caption) << control;
+    }
+}
+
 TEST_F(GynaecologyWriting, AnOpeningThatFailsShowsNothingOfThePatientBefore) {
     Form16& form = newExam("DUPONT");
     form.sheet.TxtGyneco(21).setText("Conclusion de Marie");
@@ -128,6 +147,8 @@ TEST_F(GynaecologyWriting, EachPhraseFieldOffersItsRubric) {
         if (field.index == 35) {
             press(form.sheet.Command1);
         }
+        focus(form.sheet.TxtGyneco(2));
+        ASSERT_TRUE(form.sheet.Calendar1.visible());
         focus(form.sheet.TxtGyneco(field.index));
         EXPECT_EQ(form.sheet.List1.items(), QStringList({QStringLiteral("rubrique %1").arg(field.rubric)}))
             << field.index;
@@ -141,7 +162,10 @@ TEST_F(GynaecologyWriting, EachNumberFieldOffersItsRun) {
         if (field.index == 27) {
             press(form.sheet.Command1);
         }
+        focus(form.sheet.TxtGyneco(2));
+        ASSERT_TRUE(form.sheet.Calendar1.visible());
         focus(form.sheet.TxtGyneco(field.index));
+        EXPECT_FALSE(form.sheet.Calendar1.visible()) << field.index;
         const forms::ListBox& list = form.sheet.List2;
         EXPECT_EQ(list.count(), field.last - field.first + 1) << field.index;
         EXPECT_EQ(list.items().first(), QString::number(field.first)) << field.index;
@@ -331,8 +355,11 @@ TEST_F(GynaecologyWriting, TheHourglassStandsWhileTheRecordIsWrittenAlone) {
     std::vector<forms::Pointer> pointers;
     world_.boxes.whenAsked = [&] { pointers.push_back(form.pointer()); };
     const auto seen = form.observePointer([&] { pointers.push_back(form.pointer()); });
+    world_.boxes.whenSaid = [&] { pointers.push_back(form.pointer()); };
     save(form);
-    EXPECT_EQ(pointers, std::vector({forms::Pointer::Normal, forms::Pointer::Busy, forms::Pointer::Normal}));
+    // Asked, set, set back, reported.
+    EXPECT_EQ(pointers, std::vector({forms::Pointer::Normal, forms::Pointer::Busy, forms::Pointer::Normal,
+                                     forms::Pointer::Normal}));
 }
 
 TEST_F(GynaecologyWriting, ARefusingDiskLeavesTheWindowWithItsEntries) {
