@@ -20,6 +20,7 @@
 #include "heap.h"
 #include "practice/practice.h"
 #include "qt/form_window.h"
+#include "qt/section.h"
 #include "qt/stage.h"
 #include "shell/program.h"
 #include "store/schema.h"
@@ -274,6 +275,103 @@ TEST_F(AllWindows, CaptionEachFieldOfTheFirstTrimester) {
         EXPECT_TRUE(std::ranges::any_of(labels, [](const QLabel* label) {
             return label->text() == u"Echographie du 1er Trimestre";
         })) << name;
+    }
+}
+
+/// Whether a section of the window has this title.
+bool hasSection(const QWidget* window, const QString& title) {
+    return std::ranges::any_of(window->findChildren<Section*>(),
+                               [&](const Section* section) { return section->accessibleName() == title; });
+}
+
+TEST_F(AllWindows, CaptionEachFieldOfGynaecology) {
+    const std::vector<std::pair<int, const char*>> captions{{1, "Opérateur"},
+                                                            {2, "DDR"},
+                                                            {3, "Modalité d'examen"},
+                                                            {4, "Conditions d'examen"},
+                                                            {5, "Indication"},
+                                                            {6, "Situation"},
+                                                            {7, "Longueur"},
+                                                            {8, "Largeur"},
+                                                            {9, "Epaisseur"},
+                                                            {10, "Echostructure"},
+                                                            {11, "Cavité utérine"},
+                                                            {12, "Endomètre"},
+                                                            {13, "Epaisseur de l'Endomètre"},
+                                                            {14, "D.I.U."},
+                                                            {15, "Masse"},
+                                                            {16, "Ovaire Droit"},
+                                                            {17, "Ovaire Gauche"},
+                                                            {18, "Trompe Droite"},
+                                                            {19, "Trompe Gauche"},
+                                                            {21, "Situation"},
+                                                            {22, "Dimensions"},
+                                                            {23, "Structure"},
+                                                            {24, "Nature"},
+                                                            {25, "Origine"},
+                                                            {27, "Jour de la Stimulaion"},
+                                                            {28, "Dimensions"},
+                                                            {29, "Nbr. de Follicules"},
+                                                            {30, "Taille des Follicules"},
+                                                            {31, "Dimensions"},
+                                                            {32, "Nbr. de Follicules"},
+                                                            {33, "Taille des Follicules"},
+                                                            {34, "Epaisseur"},
+                                                            {35, "Remarques"}};
+    for (const char* name : {"Form16", "Form17"}) {
+        const forms::Form* form = program_.desk().peek(name);
+        const FormWindow* window = stage_.windowOf(*form);
+        for (const auto& [index, caption] : captions) {
+            EXPECT_TRUE(captioned(window->widgetOf(*form->find(u"TxtGyneco", index)), caption)) << name << ' ' << index;
+        }
+        EXPECT_EQ(window->widgetOf(*form->find(u"TxtGyneco", 20))->accessibleName(), "Douglas");
+        EXPECT_EQ(window->widgetOf(*form->find(u"TxtGyneco", 26))->accessibleName(), "Conclusion");
+        EXPECT_EQ(window->widgetOf(*form->find(u"TxtGyneco", 28))->accessibleName(), "Ovaire Droit, Dimensions");
+        EXPECT_EQ(window->widgetOf(*form->find(u"TxtGyneco", 31))->accessibleName(), "Ovaire gauche, Dimensions");
+        EXPECT_TRUE(captioned(window->widgetOf(*form->find(u"TxtNumEcho")), "Echographie N°")) << name;
+        EXPECT_TRUE(captioned(window->widgetOf(*form->find(u"TxtDate")), "Date de l'Examen")) << name;
+        for (const char* title :
+             {"Utérus", "Annexes", "Douglas", "Masse", "Conclusion", "Ovaire Droit", "Ovaire gauche", "Endomètre "}) {
+            EXPECT_TRUE(hasSection(window, title)) << name << ' ' << title;
+        }
+    }
+}
+
+TEST_F(AllWindows, CaptionEachFieldOfAGynaecologicalExamInView) {
+    const std::vector<std::pair<int, const char*>> counted{
+        {0, "Indication"},     {1, "Situation"},      {2, "Longueur"},
+        {3, "Largeur"},        {4, "Epaisseur"},      {5, "Echostructure"},
+        {6, "Cavité utérine"}, {7, "Endomètre"},      {8, "Epaisseur de l'Endomètre"},
+        {9, "D.I.U."},         {10, "Masse"},         {11, "Ovaire Droit"},
+        {12, "Ovaire Gauche"}, {13, "Trompe Droite"}, {14, "Trompe Gauche"},
+        {16, "Situation"},     {17, "Dimensions"},    {18, "Structure"},
+        {19, "Nature"},        {20, "Origine"}};
+    const std::vector<std::pair<const char16_t*, const char*>> named{{u"TxtNumEcho", "Echographie N°"},
+                                                                     {u"TxtDate", "Date de l'Examen"},
+                                                                     {u"CmbMedecin", "Opérateur"},
+                                                                     {u"TxtDdr", "DDR"},
+                                                                     {u"CmbModExam", "Modalité d'examen"},
+                                                                     {u"CmbCondExam", "Conditions d'examen"},
+                                                                     {u"TxtJStim", "Jour de la Stimulaion"},
+                                                                     {u"TxtDimD", "Dimensions (mm)"},
+                                                                     {u"TxtNbrFolD", "Nbr. de Follicules"},
+                                                                     {u"TxtTFolD", "Taille des Follicules"},
+                                                                     {u"TxtDimG", "Dimensions (mm)"},
+                                                                     {u"TxtNbrFolG", "Nbr. de Follicules"},
+                                                                     {u"TxtTFolG", "Taille des Follicules"},
+                                                                     {u"TxtEndom", "Epaisseur"},
+                                                                     {u"Text1", "Remarques"}};
+    const forms::Form* form = program_.desk().peek("Form18");
+    const FormWindow* window = stage_.windowOf(*form);
+    for (const auto& [index, caption] : counted) {
+        EXPECT_TRUE(captioned(window->widgetOf(*form->find(u"TxtGyneco", index)), caption)) << index;
+    }
+    for (const auto& [control, caption] : named) {
+        EXPECT_TRUE(captioned(window->widgetOf(*form->find(control)), caption)) << caption;
+    }
+    for (const char* title :
+         {"Utérus", "Annexes", "Douglas", "Masse", "Conclusion", "Ovaire Droit", "Ovaire gauche", "Endomètre "}) {
+        EXPECT_TRUE(hasSection(window, title)) << title;
     }
 }
 
