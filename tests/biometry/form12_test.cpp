@@ -270,6 +270,18 @@ TEST_F(ChangeOfTheWeek, ToNothingEmptiesMeasuresAndMedians) {
     EXPECT_EQ(form.BipScroll.value(), 53);
 }
 
+TEST_F(ChangeOfTheWeek, ToNothingKeepsTheWordsButNotTheirAlarm) {
+    Form12& form = openFetus(2);
+    const Texts before = wordsOf(form);
+    ASSERT_EQ(form.LabelBip.color(), forms::Color(0xFF0000));
+    write(form.SAF3, "");
+    EXPECT_EQ(wordsOf(form), before);
+    EXPECT_EQ(form.LabelBip.text(), "< 3 ème Percentile");
+    EXPECT_EQ(form.LabelBip.color(), forms::Color(0x0000FF));
+    EXPECT_EQ(form.LabelBip.points(), 8);
+    EXPECT_FALSE(form.ShPtBip.visible());
+}
+
 TEST_F(ChangeOfTheWeek, ToNoNumberDoesNothing) {
     Form12& form = open();
     write(form.SAF3, "abc");
