@@ -1,3 +1,4 @@
+#include <QDir>
 #include <QFile>
 
 #include "exams/exam_windows.h"
@@ -134,6 +135,46 @@ TEST_F(LaterReportOnShow, TellsEachOfThreeFetusesWithItsMorphology) {
     EXPECT_TRUE(report().contains("TRIPLE N°3 :\r\n          PRESENTATION : \r\n               Siège\r\n"));
     EXPECT_TRUE(report().contains("Mouvements actifs: Vifs\r\n"));
     EXPECT_TRUE(report().contains("Fémur: 31 mm\r\n"));
+}
+
+TEST_F(LaterReportOnShow, TellsTheFieldsOfTheExamInTheirPlaces) {
+    press(showMeasured({{"MACHINE", "machine"},
+                        {"DATECIRC", "circ"},
+                        {"INDI", "indic"},
+                        {"MODEXAM", "modalites"},
+                        {"CONDITIONS", "conditions"},
+                        {"UTERUS", "uterus"},
+                        {"ANNEXES", "annexes"},
+                        {"DOUGLAS", "douglas"},
+                        {"UTD", "droite"},
+                        {"UTG", "gauche"},
+                        {"ARTO", "ombilicale"},
+                        {"ARTC", "cerebrale"}})
+              .Command1);
+    EXPECT_TRUE(report().contains("Appareil: machine\r\n1ère mise en service le circ\r\n\r\n\r\n"));
+    EXPECT_TRUE(
+        report().contains("EXAMEN\r\n          Indication : indic\r\n          Modalités : modalites\r\n"
+                          "          Conditions : conditions\r\n\r\n"
+                          "PELVIS\r\n          Utérus : uterus\r\n          Annexes : annexes\r\n"
+                          "          Douglas : douglas\r\n\r\n"
+                          "DOPPLER ART. UTERINES\r\n          Art. utérine droite : droite\r\n"
+                          "          Art. utérine gauche : gauche\r\n\r\nFOETUS\r\n"));
+    EXPECT_TRUE(
+        report().contains("          DOPPLER\r\n               Artère Ombilicale : ombilicale\r\n"
+                          "               Art. Cérebrale Ant. : cerebrale\r\n\r\n"));
+}
+
+TEST_F(LaterReportOnShow, HasTheLineEndsAloneOfAnIntroductionThatIsMissingOrCantBeRead) {
+    Form10& form = showMeasured({{"DATECIRC", "circ"}});
+    const QString lineEndsAlone = "service le circ\r\n\r\n\r\n\r\n\r\n\r\n               ";
+    press(form.Command1);
+    EXPECT_TRUE(report().contains(lineEndsAlone));
+    desk().unload("RicheT");
+    ASSERT_TRUE(QDir().mkdir(world_.folder.filePath("intro")));
+    press(form.Command1);
+    EXPECT_TRUE(report().contains(lineEndsAlone));
+    EXPECT_EQ(world_.boxes.said, QStringList());
+    EXPECT_EQ(world_.boxes.reported, QList<int>());
 }
 
 TEST_F(LaterReportOnShow, FollowsTheMarksOfTheMenu) {

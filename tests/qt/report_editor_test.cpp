@@ -362,6 +362,19 @@ TEST_F(EditorWindow, LeavesNothingToAScreenReaderWhenItIsLeft) {
     EXPECT_EQ(QAccessible::accessibleInterface(page), nullptr);
 }
 
+TEST_F(EditorWindow, TellsWhatEachToolDoesAndOffersItAlways) {
+    RicheT& form = open();
+    QStringList tips;
+    for (const auto& button : form.tbToolBar.buttons()) {
+        auto* tool = static_cast<QToolButton*>(window().widgetOf(*button));
+        EXPECT_TRUE(tool->isEnabled()) << qPrintable(button->key());
+        EXPECT_FALSE(tool->icon().isNull()) << qPrintable(button->key());
+        tips << tool->toolTip();
+    }
+    EXPECT_EQ(tips, QStringList({"Imprimer", "Couper", "Copier", "Coller", "Gras", "Italique", "Souligné", "Police",
+                                 "Aligner à gauche", "Centrer", "Aligner à droite", "Quitte"}));
+}
+
 TEST_F(EditorWindow, PrintsFromItsMenuBar) {
     RicheT& form = openWith("texte");
     window().actionOf(form.imprimer)->trigger();
