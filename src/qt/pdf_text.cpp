@@ -96,10 +96,10 @@ void PdfText::drawWaiting() {
 
 // Those under the text and through it.
 void PdfText::drawLines(const QGlyphRun& glyphs, QPointF at) {
-    if (!glyphs.underline() && !glyphs.strikeOut()) {
+    const QList<QPointF> positions = glyphs.positions();
+    if (positions.isEmpty() || (!glyphs.underline() && !glyphs.strikeOut())) {
         return;
     }
-    const QList<QPointF> positions = glyphs.positions();
     const QList<QPointF> advances = font_.advancesForGlyphIndexes(glyphs.glyphIndexes());
     double left = positions.front().x();
     double right = left;

@@ -262,6 +262,16 @@ TEST_F(PdfTextFile, DrawsTheLettersOfAFontThatCanNotBeEmbedded) {
     EXPECT_EQ(inked(picture()), QRect(20, 30, 40, 40));
 }
 
+TEST_F(PdfTextFile, TakesAnUnderlineWithoutLetters) {
+    QGlyphRun glyphs;
+    glyphs.setRawFont(QRawFont::fromFont(arial(240)));
+    glyphs.setUnderline(true);
+    PdfText pdf = open();
+    pdf.draw(glyphs, {400, 400}, Qt::black);
+    pdf.end();
+    EXPECT_TRUE(inked(picture()).isEmpty());
+}
+
 TEST_F(PdfTextFile, LeavesTheFileOfTheOneBeforeUntilItEnds) {
     PdfText first = open();
     write(first, "ancien", arial(240), {400, 400});
