@@ -357,7 +357,7 @@ TEST_F(EditorWindow, LeavesNothingToAScreenReaderWhenItIsLeft) {
     const QAccessible::Id page = QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&view().edit()));
     ASSERT_NE(QAccessible::accessibleInterface(page), nullptr);
     press("Quitter");
-    settle();
+    QApplication::processEvents();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(QAccessible::accessibleInterface(page), nullptr);
 }
